@@ -1,0 +1,35 @@
+#pragma once
+
+#include "framework/QORTie.h"
+#include "framework/QORVar.h"
+#include "text/QORUnicodeString.h"
+
+class QORISPPAbstractActivity;
+using QORISPPAbstractActivity_var = QORVar<QORISPPAbstractActivity>;
+
+/// A node of the process plan, be it an activity or a logical node.
+class QORISPPAbstractActivity : public QORBaseUnknown {
+public:
+    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPAbstractActivity"); }
+
+    /// Name of the activity as a person reads it.
+    virtual QORUnicodeString GetName() = 0;
+
+    /// The activity that contains this one, a null handle at the top of the tree.
+    virtual QORISPPAbstractActivity_var GetParent() = 0;
+
+    /// Fills oType with the name of the activity's type. The result isn't looked at.
+    virtual QORStatus GetType(QORUnicodeString& oType) = 0;
+};
+
+inline constexpr QORInterfaceID IID_QORISPPAbstractActivity = QORISPPAbstractActivity::InterfaceID();
+
+template <class Impl>
+class QORISPPAbstractActivityTie : public QORTie<QORISPPAbstractActivity, Impl> {
+public:
+    using QORTie<QORISPPAbstractActivity, Impl>::QORTie;
+
+    QORUnicodeString GetName() override { return this->Target()->GetName(); }
+    QORISPPAbstractActivity_var GetParent() override { return this->Target()->GetParent(); }
+    QORStatus GetType(QORUnicodeString& oType) override { return this->Target()->GetType(oType); }
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "framework/QORTie.h"
+#include "framework/QORVar.h"
+
+/// A concrete activity of a process plan. Asked for by cast alone: it tells steps from logical nodes.
+class QORISPPActivity : public QORBaseUnknown {
+public:
+    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPActivity"); }
+};
+
+inline constexpr QORInterfaceID IID_QORISPPActivity = QORISPPActivity::InterfaceID();
+using QORISPPActivity_var = QORVar<QORISPPActivity>;
+
+template <class Impl>
+using QORISPPActivityTie = QORTie<QORISPPActivity, Impl>;

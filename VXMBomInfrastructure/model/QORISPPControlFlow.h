@@ -1,0 +1,16 @@
+#pragma once
+
+#include "framework/QORTie.h"
+#include "framework/QORVar.h"
+
+/// A control-flow link as an object of the plan. Asked for by cast alone.
+class QORISPPControlFlow : public QORBaseUnknown {
+public:
+    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPControlFlow"); }
+};
+
+inline constexpr QORInterfaceID IID_QORISPPControlFlow = QORISPPControlFlow::InterfaceID();
+using QORISPPControlFlow_var = QORVar<QORISPPControlFlow>;
+
+template <class Impl>
+using QORISPPControlFlowTie = QORTie<QORISPPControlFlow, Impl>;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "collections/QORListValQORBaseUnknown_var.h"
+#include "framework/QORTie.h"
+#include "framework/QORVar.h"
+
+/// Items of a behaviour. Each call gives a new list that the caller deletes, or null.
+class VXMIResourceItemMgmt : public QORBaseUnknown {
+public:
+    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceItemMgmt"); }
+
+    /// Items assigned to the behaviour, products and fasteners alike.
+    virtual QORListValQORBaseUnknown_var* GetAssignedItems() = 0;
+
+    /// Items that the behaviour puts out.
+    virtual QORListValQORBaseUnknown_var* GetOutputItems() = 0;
+};
+
+inline constexpr QORInterfaceID IID_VXMIResourceItemMgmt = VXMIResourceItemMgmt::InterfaceID();
+using VXMIResourceItemMgmt_var = QORVar<VXMIResourceItemMgmt>;
+
+template <class Impl>
+class VXMIResourceItemMgmtTie : public QORTie<VXMIResourceItemMgmt, Impl> {
+public:
+    using QORTie<VXMIResourceItemMgmt, Impl>::QORTie;
+
+    QORListValQORBaseUnknown_var* GetAssignedItems() override { return this->Target()->GetAssignedItems(); }
+    QORListValQORBaseUnknown_var* GetOutputItems() override { return this->Target()->GetOutputItems(); }
+};

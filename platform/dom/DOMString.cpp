@@ -1,0 +1,5 @@
+#include "dom/DOMString.h"
+
+#include "dom/QORDomState.h"
+
+DOMString::DOMString(const char* iText) : _wide(iText ? QORXmlRuntime::Get()->Widen(iText) : std::u16string()) {}

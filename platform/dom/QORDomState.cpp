@@ -1,0 +1,123 @@
+#include "dom/QORDomState.h"
+
+#include <xercesc/dom/DOMImplementation.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLString.hpp>
+
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+/// Length of the well-formed character at the front of iText, 0 when there is none.
+std::size_t WellFormedLength(std::string_view iText) {
+    const auto lead = static_cast<unsigned char>(iText[0]);
+    const std::size_t length = lead < 0x80U ? 1 : lead < 0xC2U ? 0 : lead < 0xE0U ? 2 : lead < 0xF0U ? 3 : 4;
+    if (length == 0 || lead > 0xF4U || length > iText.size()) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((static_cast<unsigned char>(iText[i]) & 0xC0U) != 0x80U) {
+            return 0;
+        }
+    }
+    const auto second = static_cast<unsigned char>(length > 1 ? iText[1] : 0);
+    const bool overlongOrOutside = (lead == 0xE0U && second < 0xA0U) || (lead == 0xEDU && second > 0x9FU) ||
+                                   (lead == 0xF0U && second < 0x90U) || (lead == 0xF4U && second > 0x8FU);
+    return overlongOrOutside ? 0 : length;
+}
+
+std::string Repaired(std::string_view iText) {
+    std::string repaired;
+    while (!iText.empty()) {
+        const std::size_t length = WellFormedLength(iText);
+        repaired += length == 0 ? std::string_view("\xEF\xBF\xBD") : iText.substr(0, length);
+        iText.remove_prefix(length == 0 ? 1 : length);
+    }
+    return repaired;
+}
+
+} // namespace
+
+std::shared_ptr<QORXmlRuntime> QORXmlRuntime::Get() {
+    static const auto runtime = std::make_shared<QORXmlRuntime>();
+    return runtime;
+}
+
+QORXmlRuntime::QORXmlRuntime() {
+    xercesc::XMLPlatformUtils::Initialize();
+    xercesc::XMLTransService::Codes result{};
+    _utf8.reset(xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor("UTF-8", result, 4096));
+    if (!_utf8) {
+        throw std::runtime_error("the XML library can't transcode UTF-8");
+    }
+}
+
+QORXmlRuntime::~QORXmlRuntime() {
+    _utf8.reset();
+    xercesc::XMLPlatformUtils::Terminate();
+}
+
+std::u16string QORXmlRuntime::Widen(std::string_view iNarrow) {
+    std::u16string wide;
+    if (!TryWiden(iNarrow, wide)) {
+        TryWiden(Repaired(iNarrow), wide);
+    }
+    return wide;
+}
+
+bool QORXmlRuntime::TryWiden(std::string_view iNarrow, std::u16string& oWide) {
+    oWide.resize(iNarrow.size());
+    std::vector<unsigned char> sizes(iNarrow.size());
+    const auto* const bytes = reinterpret_cast<const XMLByte*>(iNarrow.data());
+    std::size_t done = 0;
+    std::size_t filled = 0;
+    try {
+        while (done < iNarrow.size()) {
+            XMLSize_t eaten = 0;
+            filled += _utf8->transcodeFrom(bytes + done, iNarrow.size() - done, oWide.data() + filled,
+                                           oWide.size() - filled, eaten, sizes.data());
+            if (eaten == 0) {
+                return false;
+            }
+            done += eaten;
+        }
+    } catch (const xercesc::XMLException&) {
+        return false;
+    }
+    oWide.resize(filled);
+    return true;
+}
+
+char* QORXmlRuntime::Narrow(const XMLCh* iWide) {
+    const XMLSize_t length = xercesc::XMLString::stringLen(iWide);
+    const XMLSize_t room = 3 * length + 1;
+    auto* const narrow = static_cast<char*>(xercesc::XMLPlatformUtils::fgMemoryManager->allocate(room));
+    XMLSize_t done = 0;
+    XMLSize_t filled = 0;
+    while (done < length) {
+        XMLSize_t eaten = 0;
+        filled += _utf8->transcodeTo(iWide + done, length - done, reinterpret_cast<XMLByte*>(narrow) + filled,
+                                     room - 1 - filled, eaten, xercesc::XMLTranscoder::UnRep_RepChar);
+        if (eaten == 0) {
+            break;
+        }
+        done += eaten;
+    }
+    narrow[filled] = '\0';
+    return narrow;
+}
+
+QORDomState::QORDomState()
+    : _runtime(QORXmlRuntime::Get()), _document(xercesc::DOMImplementation::getImplementation()->createDocument()) {}
+
+QORDomState::~QORDomState() {
+    _document->release();
+}
+
+void QORDomState::Release() {
+    if (--_references == 0) {
+        delete this;
+    }
+}

@@ -1,0 +1,7 @@
+#include "dom/QORXMLParser.h"
+
+#include "dom/QORDomState.h"
+
+void QORXMLParser::Initialize() {
+    QORXmlRuntime::Get();
+}

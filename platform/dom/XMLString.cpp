@@ -1,0 +1,15 @@
+#include "dom/XMLString.h"
+
+#include "dom/QORDomState.h"
+
+#include <xercesc/util/XMLString.hpp>
+
+char* XMLString::transcode(const unsigned short* iWide) {
+    return iWide ? QORXmlRuntime::Get()->Narrow(reinterpret_cast<const XMLCh*>(iWide)) : nullptr;
+}
+
+void XMLString::release(char** ioText) {
+    if (*ioText) {
+        xercesc::XMLString::release(ioText);
+    }
+}

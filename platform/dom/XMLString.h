@@ -1,0 +1,13 @@
+#pragma once
+
+#include "text/QORExport.h"
+
+/// Narrow text of wide text.
+class QOR_EXPORT XMLString {
+public:
+    /// UTF-8 of a zero-terminated wide text, in new memory that release frees; null gives null.
+    static char* transcode(const unsigned short* iWide);
+
+    /// Frees what transcode gave and sets the pointer to null.
+    static void release(char** ioText);
+};

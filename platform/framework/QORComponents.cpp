@@ -1,0 +1,14 @@
+#include "framework/QORComponents.h"
+
+#include "framework/QORDictionary.h"
+#include "framework/QORVar.h"
+
+QORStatus QORInstantiateComponent(const char* iName, const QORInterfaceID& iInterface, void** oInterface) {
+    *oInterface = nullptr;
+    const QORMetaClass* const meta = QORDictionary::Get().FindClass(iName);
+    if (!meta) {
+        return QOR_FAILED;
+    }
+    const QORBaseUnknown_var component = QORBaseUnknown_var::Adopt(meta->CreateItself());
+    return component ? component->QueryInterface(iInterface, oInterface) : QOR_FAILED;
+}

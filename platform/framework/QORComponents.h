@@ -1,0 +1,10 @@
+#pragma once
+
+#include "framework/QORInterfaceID.h"
+#include "framework/QORStatus.h"
+#include "text/QORExport.h"
+
+/// Makes an object of the class that is registered as iName and casts it to iInterface. On success *oInterface holds
+/// the one reference, the caller's; with no such class, one that can't be created by name, or one that doesn't answer
+/// the interface, *oInterface is null and the result negative.
+QOR_EXPORT QORStatus QORInstantiateComponent(const char* iName, const QORInterfaceID& iInterface, void** oInterface);

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "text/QORExport.h"
+
+#include <type_traits>
+
+/// A recursion whose depth the model decides mustn't be bounded by the thread's stack. QORCallDeep makes one call of
+/// it: directly while there is room, else on a further stack segment from the heap. Exceptions pass through.
+class QOR_EXPORT QORDeepStack {
+public:
+    /// Whether the present segment has room for what runs until the next check.
+    static bool HasRoom();
+
+    /// Calls iCall(iContext) on a further segment; raises std::bad_alloc when there is none to be had.
+    static void CallOnSegment(void (*iCall)(void*), void* iContext);
+};
+
+template <class Call>
+void QORCallDeep(Call&& iCall) {
+    if (QORDeepStack::HasRoom()) {
+        iCall();
+        return;
+    }
+    using Plain = std::remove_reference_t<Call>;
+    QORDeepStack::CallOnSegment([](void* iContext) { (*static_cast<Plain*>(iContext))(); }, &iCall);
+}

@@ -1,0 +1,122 @@
+#include "framework/QORDictionary.h"
+
+#include <algorithm>
+
+QORDictionary& QORDictionary::Get() {
+    // Never destroyed: static objects of libraries sign off at the very end of the process.
+    static auto* const dictionary = new QORDictionary();
+    return *dictionary;
+}
+
+void QORDictionary::Register(QORMetaClass& iClass) {
+    _classes[iClass.GetName()] = &iClass;
+}
+
+void QORDictionary::Unregister(const QORMetaClass& iClass) {
+    const auto place = _classes.find(iClass.GetName());
+    if (place != _classes.end() && place->second == &iClass) {
+        _classes.erase(place);
+    }
+    for (const std::string& type : iClass.GetExtendedTypes()) {
+        std::erase(_extensions[type], &iClass);
+        if (_extensions[type].empty()) {
+            _extensions.erase(type);
+        }
+        DropUnusedPlaceholder(type);
+    }
+}
+
+void QORDictionary::AddExtension(const std::string& iType, QORMetaClass& iExtension) {
+    _extensions[iType].push_back(&iExtension);
+}
+
+QORMetaClass* QORDictionary::FindClass(const std::string& iName) const {
+    const auto defined = _classes.find(iName);
+    if (defined != _classes.end()) {
+        return defined->second;
+    }
+    const auto placed = _placeholders.find(iName);
+    return placed == _placeholders.end() ? nullptr : placed->second.get();
+}
+
+QORMetaClass* QORDictionary::FindOrPlace(const std::string& iName) {
+    if (QORMetaClass* known = FindClass(iName)) {
+        return known;
+    }
+    auto& placed = _placeholders[iName];
+    placed = std::make_unique<QORMetaClass>(iName.c_str(), Placeholder, QORMetaClass::OfBaseUnknown(), "QORNull", "",
+                                            nullptr);
+    return placed.get();
+}
+
+void QORDictionary::DropUnusedPlaceholder(const std::string& iName) {
+    if (!KnowsBindingsOf(iName)) {
+        _placeholders.erase(iName);
+    }
+}
+
+void QORDictionary::Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {
+    _bindings[iClass].push_back({iInterface, iFactory});
+}
+
+void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface) {
+    const auto place = _bindings.find(iClass);
+    if (place == _bindings.end()) {
+        return;
+    }
+    std::erase_if(place->second, [&](const Binding& iBinding) { return iBinding.interface == iInterface; });
+    if (place->second.empty()) {
+        _bindings.erase(place);
+    }
+}
+
+QORForwarderFactory QORDictionary::FindFactory(const std::string& iClass, const QORInterfaceID& iInterface) const {
+    const auto place = _bindings.find(iClass);
+    if (place == _bindings.end()) {
+        return nullptr;
+    }
+    const auto found = std::find_if(place->second.begin(), place->second.end(),
+                                    [&](const Binding& iBinding) { return iBinding.interface == iInterface; });
+    return found == place->second.end() ? nullptr : found->factory;
+}
+
+const std::vector<QORMetaClass*>& QORDictionary::FindExtensions(const std::string& iType) const {
+    static const std::vector<QORMetaClass*> none;
+    const auto place = _extensions.find(iType);
+    return place == _extensions.end() ? none : place->second;
+}
+
+bool QORDictionary::KnowsBindingsOf(const std::string& iClass) const {
+    return _bindings.contains(iClass) || _extensions.contains(iClass);
+}
+
+std::vector<std::string> QORDictionary::Report() const {
+    std::vector<std::string> lines;
+    for (const auto& [name, entry] : _classes) {
+        lines.push_back("class " + name);
+    }
+    for (const auto& [name, entry] : _placeholders) {
+        lines.push_back("class " + name);
+    }
+    for (const auto& [name, bindings] : _bindings) {
+        for (const Binding& binding : bindings) {
+            lines.push_back("bound " + name + " " + std::string(binding.interface.GetName()));
+        }
+    }
+    for (const auto& [type, extensions] : _extensions) {
+        for (const QORMetaClass* extension : extensions) {
+            lines.push_back("extended " + type + " " + extension->GetName());
+        }
+    }
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+QORFillDictionary::QORFillDictionary(const char* iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory)
+    : _class(iClass), _interface(iInterface) {
+    QORDictionary::Get().Bind(_class, _interface, iFactory);
+}
+
+QORFillDictionary::~QORFillDictionary() {
+    QORDictionary::Get().Unbind(_class, _interface);
+}

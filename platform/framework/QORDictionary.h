@@ -1,0 +1,69 @@
+#pragma once
+
+#include "framework/QORMetaClass.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+/// Makes the forwarder of one interface for an implementation; the result counts on the implementation.
+using QORForwarderFactory = QORBaseUnknown* (*)(QORBaseUnknown* iImplementation);
+
+/// The one dictionary of classes and of the interfaces bound to them, by name.
+class QOR_EXPORT QORDictionary {
+public:
+    static QORDictionary& Get();
+
+    void Register(QORMetaClass& iClass);
+    void Unregister(const QORMetaClass& iClass);
+    void AddExtension(const std::string& iType, QORMetaClass& iExtension);
+
+    /// The class of that name, or null.
+    QORMetaClass* FindClass(const std::string& iName) const;
+    QORMetaClass* FindOrPlace(const std::string& iName);
+
+    void Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
+    void Unbind(const std::string& iClass, const QORInterfaceID& iInterface);
+
+    /// Factory for the interface on that very class, or null.
+    QORForwarderFactory FindFactory(const std::string& iClass, const QORInterfaceID& iInterface) const;
+
+    /// The extensions of that very type, in the order in which they came.
+    const std::vector<QORMetaClass*>& FindExtensions(const std::string& iType) const;
+
+    /// Whether any interface is bound to that class, or any extension made for it.
+    bool KnowsBindingsOf(const std::string& iClass) const;
+
+    /// Everything that is entered at present, a line each ("class X", "bound X Y", "extended X Y"), sorted: what a
+    /// library has added, and that it took everything along.
+    std::vector<std::string> Report() const;
+
+private:
+    struct Binding {
+        QORInterfaceID interface;
+        QORForwarderFactory factory;
+    };
+
+    QORDictionary() = default;
+    void DropUnusedPlaceholder(const std::string& iName);
+
+    std::unordered_map<std::string, QORMetaClass*> _classes;
+    std::unordered_map<std::string, std::unique_ptr<QORMetaClass>> _placeholders;
+    std::unordered_map<std::string, std::vector<QORMetaClass*>> _extensions;
+    std::unordered_map<std::string, std::vector<Binding>> _bindings;
+};
+
+/// Binds an interface to a class for as long as this object lives: a static object in the library of the class.
+class QOR_EXPORT QORFillDictionary {
+public:
+    QORFillDictionary(const char* iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
+    ~QORFillDictionary();
+    QORFillDictionary(const QORFillDictionary&) = delete;
+    QORFillDictionary& operator=(const QORFillDictionary&) = delete;
+
+private:
+    std::string _class;
+    QORInterfaceID _interface;
+};

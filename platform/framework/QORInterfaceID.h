@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+/// Name of an interface, with its hash at hand so that a comparison rarely reads the text.
+class QORInterfaceID {
+public:
+    constexpr explicit QORInterfaceID(std::string_view iName) : _name(iName), _hash(HashOf(iName)) {}
+
+    constexpr std::string_view GetName() const { return _name; }
+    constexpr std::uint64_t GetHash() const { return _hash; }
+
+    friend constexpr bool operator==(const QORInterfaceID& iLeft, const QORInterfaceID& iRight) {
+        return iLeft._hash == iRight._hash && iLeft._name == iRight._name;
+    }
+
+private:
+    static constexpr std::uint64_t HashOf(std::string_view iName) {
+        std::uint64_t hash = 14695981039346656037ULL;
+        for (const char letter : iName) {
+            hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211ULL;
+        }
+        return hash;
+    }
+
+    std::string_view _name;
+    std::uint64_t _hash;
+};

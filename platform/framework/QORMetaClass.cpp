@@ -1,0 +1,48 @@
+#include "framework/QORMetaClass.h"
+
+#include "framework/QORDictionary.h"
+
+#include <cstring>
+
+QORMetaClass::QORMetaClass(const char* iName, ENUMTypeOfClass iKind, QORMetaClass* iBase, const char* iExtended,
+                           const char* iModule, Creator iCreate)
+    : _name(iName), _kind(iKind), _base(iBase), _module(iModule), _create(iCreate) {
+    if (iKind == Placeholder) {
+        return;
+    }
+    QORDictionary::Get().Register(*this);
+    if (std::strcmp(iExtended, "QORNull") != 0) {
+        SetExtensionOf(fct_FindMetaObject(iExtended));
+    }
+}
+
+QORMetaClass::~QORMetaClass() {
+    if (_kind != Placeholder) {
+        QORDictionary::Get().Unregister(*this);
+    }
+}
+
+void QORMetaClass::SetExtensionOf(QORMetaClass* iType) {
+    _extended.emplace_back(iType->GetName());
+    QORDictionary::Get().AddExtension(iType->GetName(), *this);
+}
+
+bool QORMetaClass::IsAKindOf(const char* iClass) const {
+    for (const QORMetaClass* meta = this; meta; meta = meta->_base) {
+        if (meta->_name == iClass) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QORMetaClass* QORMetaClass::OfBaseUnknown() {
+    // Never destroyed: any object may still be asked for its class while the process ends.
+    static auto* const meta =
+        new QORMetaClass("QORBaseUnknown", Implementation, nullptr, "QORNull", "QORPlatform", nullptr);
+    return meta;
+}
+
+QORMetaClass* fct_FindMetaObject(const char* iName) {
+    return QORDictionary::Get().FindOrPlace(iName);
+}

@@ -1,0 +1,72 @@
+#include "framework/QORObjectParts.h"
+
+#include "framework/QORDictionary.h"
+#include "framework/QORExtensionAdapter.h"
+
+QORObjectParts::QORObjectParts(QORBaseUnknown& iObject) : _object(iObject) {}
+
+QORObjectParts::~QORObjectParts() = default;
+
+bool QORObjectParts::CanHold(const QORMetaClass& iClass) {
+    for (const QORMetaClass* meta = &iClass; meta; meta = meta->GetBase()) {
+        if (QORDictionary::Get().KnowsBindingsOf(meta->GetName())) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QORBaseUnknown* QORObjectParts::FindForwarder(const QORInterfaceID& iInterface) {
+    for (const Forwarder& forwarder : _forwarders) {
+        if (forwarder.interface == iInterface) {
+            return forwarder.object.get();
+        }
+    }
+    for (const QORMetaClass* meta = _object.GetMetaObject(); meta; meta = meta->GetBase()) {
+        if (QORBaseUnknown* made = Make(*meta, _object, iInterface)) {
+            return made;
+        }
+        if (QORBaseUnknown* made = MakeOnExtension(*meta, iInterface)) {
+            return made;
+        }
+    }
+    return nullptr;
+}
+
+QORBaseUnknown* QORObjectParts::Make(const QORMetaClass& iClass, QORBaseUnknown& iTarget,
+                                     const QORInterfaceID& iInterface) {
+    const QORForwarderFactory factory = QORDictionary::Get().FindFactory(iClass.GetName(), iInterface);
+    if (!factory) {
+        return nullptr;
+    }
+    std::unique_ptr<QORBaseUnknown> made(factory(&iTarget));
+    _forwarders.push_back({iInterface, std::move(made)});
+    return _forwarders.back().object.get();
+}
+
+QORBaseUnknown* QORObjectParts::MakeOnExtension(const QORMetaClass& iClass, const QORInterfaceID& iInterface) {
+    for (const QORMetaClass* type : QORDictionary::Get().FindExtensions(iClass.GetName())) {
+        if (!QORDictionary::Get().FindFactory(type->GetName(), iInterface)) {
+            continue;
+        }
+        if (QORExtensionAdapter* extension = FindExtension(*type)) {
+            return Make(*type, *extension, iInterface);
+        }
+    }
+    return nullptr;
+}
+
+QORExtensionAdapter* QORObjectParts::FindExtension(const QORMetaClass& iType) {
+    for (const ExtensionPart& part : _extensions) {
+        if (part.type == &iType) {
+            return part.object.get();
+        }
+    }
+    std::unique_ptr<QORExtensionAdapter> made(dynamic_cast<QORExtensionAdapter*>(iType.CreateItself()));
+    if (!made) {
+        return nullptr;
+    }
+    made->Extend(&_object);
+    _extensions.push_back({&iType, std::move(made)});
+    return _extensions.back().object.get();
+}
