@@ -1,0 +1,147 @@
+#include "planner/model/Activity.h"
+
+#include "planner/model/OutputRecord.h"
+
+#include <array>
+#include <unordered_set>
+
+namespace planner {
+
+namespace {
+
+constexpr const char* kStepType = "PhysicalActivity";
+constexpr const char* kFlowType = "Activity";
+
+/// Model type of each kind besides the one that all steps have, by the kind's number.
+constexpr std::array<const char*, 4> kOwnTypes{nullptr, "BIWActivityLoading", "BIWActivityStation",
+                                               "BIWActivityGrouping"};
+
+const char* firstType(ActivityKind kind) {
+    if (kind == ActivityKind::Logical) {
+        return "Logical";
+    }
+    const char* const own = kOwnTypes[static_cast<std::size_t>(kind)];
+    return own ? own : kStepType;
+}
+
+} // namespace
+
+void Activity::setKind(ActivityKind kind) {
+    kind_ = kind;
+    hasOwnKind_ = true;
+}
+
+std::string Activity::type() const {
+    return type_ ? *type_ : firstType(kind_);
+}
+
+QORStatus Activity::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    if (isStep() && QORAnswer(iInterface, oInterface, step_) >= 0) {
+        return QOR_OK;
+    }
+    const QORStatus status =
+        QORAnswer(iInterface, oInterface, abstract_, spec_, childManagement_, flow_, itemManagement_);
+    return status < 0 ? ModelObject::QueryInterface(iInterface, oInterface) : status;
+}
+
+void Activity::forgetNeighbours() {
+    FlowObject::forgetNeighbours();
+    parent_ = nullptr;
+    children.reset();
+    for (ObjectList* list : {&firstAssigned, &assigned, &removed, &items, &outputs}) {
+        list->reset();
+    }
+}
+
+QORStatus Activity::GetType(QORUnicodeString& oType) const {
+    oType = platformText(type());
+    return QOR_OK;
+}
+
+unsigned char Activity::IsOfType(const QORUnicodeString& iType) const {
+    return isStep() && (iType == kStepType || iType == firstType(kind_)) ? 1 : 0;
+}
+
+bool Activity::matches(const QORUnicodeString& type) const {
+    return type == "" || type == kFlowType || IsOfType(type) == 1;
+}
+
+QORListValQORBaseUnknown_var* Activity::GetChildren(const QORUnicodeString& iType) const {
+    if (!children.present()) {
+        return nullptr;
+    }
+    auto handles = std::make_unique<QORListValQORBaseUnknown_var>();
+    for (Activity* child : children) {
+        if (child->matches(iType)) {
+            handles->Append(QORBaseUnknown_var(child));
+        }
+    }
+    return handles.release();
+}
+
+namespace {
+
+/// The activities of a view; resources and behaviours that are linked with one stay out.
+template <class Filter>
+QORListValQORBaseUnknown_var activitiesOf(const OptionalList<FlowObject*>& view, Filter filter) {
+    QORListValQORBaseUnknown_var handles;
+    for (FlowObject* neighbour : view) {
+        if (neighbour->sort() == Sort::Activity && filter(static_cast<const Activity&>(*neighbour))) {
+            handles.Append(QORBaseUnknown_var(neighbour));
+        }
+    }
+    return handles;
+}
+
+} // namespace
+
+QORListValQORBaseUnknown_var Activity::GetPredecessors(const QORUnicodeString& iType) const {
+    return activitiesOf(predecessors(), [&](const Activity& activity) { return activity.matches(iType); });
+}
+
+QORListValQORBaseUnknown_var Activity::GetSuccessors(const QORUnicodeString& iType) const {
+    return activitiesOf(successors(), [&](const Activity& activity) { return activity.matches(iType); });
+}
+
+QORListValQORBaseUnknown_var Activity::GetProductOutputs(const QORISPPItem_var& iItem) const {
+    QORListValQORBaseUnknown_var records;
+    for (ModelObject* product : outputs) {
+        if (!iItem || iItem.Impl() == product) {
+            records.Append(QORBaseUnknown_var::Adopt(new OutputRecord(*product)));
+        }
+    }
+    return records;
+}
+
+QORListValQORBaseUnknown_var* Activity::GetItems(const QORUnicodeString& iKind, int iRelation) const {
+    if (!(iKind == "Item")) {
+        return nullptr;
+    }
+    switch (iRelation) {
+    case 0:
+        return newAllItems();
+    case 1:
+        return newHandles(assigned);
+    case 2:
+        return newHandles(firstAssigned);
+    case 4:
+        return newHandles(removed);
+    default:
+        return nullptr;
+    }
+}
+
+QORListValQORBaseUnknown_var* Activity::newAllItems() const {
+    auto handles = std::make_unique<QORListValQORBaseUnknown_var>();
+    std::unordered_set<const ModelObject*> met;
+    for (const ObjectList* list : {&firstAssigned, &assigned, &removed, &items}) {
+        for (ModelObject* item : *list) {
+            if (met.insert(item).second) {
+                handles->Append(QORBaseUnknown_var(item));
+            }
+        }
+    }
+    return handles.release();
+}
+
+} // namespace planner

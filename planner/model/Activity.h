@@ -1,0 +1,82 @@
+#pragma once
+
+#include "planner/model/FlowObject.h"
+#include "planner/model/Item.h"
+#include "planner/model/Kinds.h"
+
+#include "model/QORISPPAbstractActivity.h"
+#include "model/QORISPPActivity.h"
+#include "model/QORISPPChildManagement.h"
+#include "model/QORISPPFlowMgt.h"
+#include "model/QORISPPItemMgt.h"
+#include "model/QORISpecObject.h"
+
+namespace planner {
+
+/// A step of the plan, or a logical node, which answers the same but QORISPPActivity and is of no model type.
+class Activity final : public FlowObject {
+public:
+    Activity() : FlowObject(Sort::Activity) {}
+
+    ActivityKind kind() const { return kind_; }
+    bool hasOwnKind() const { return hasOwnKind_; }
+    void setKind(ActivityKind kind);
+    bool isStep() const { return kind_ != ActivityKind::Logical; }
+
+    /// Text of the type: the own one, by default the first model type of the kind, "Logical" for a logical node.
+    std::string type() const;
+    bool hasOwnType() const { return type_ != nullptr; }
+    void setType(std::string type) { type_ = std::make_unique<std::string>(std::move(type)); }
+
+    /// The containing activity; null for the root and for an activity of a behaviour.
+    Activity* parent() const { return parent_; }
+    void setParent(Activity* parent) { parent_ = parent; }
+
+    // Items by relation, and what the activity puts out.
+    ObjectList firstAssigned;
+    ObjectList assigned;
+    ObjectList removed;
+    ObjectList items;
+    ObjectList outputs;
+
+    OptionalList<Activity*> children;
+
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+    void forgetNeighbours() override;
+
+    // Answers of QORISPPAbstractActivity.
+    QORUnicodeString GetName() const { return platformText(name()); }
+    QORISPPAbstractActivity_var GetParent() const { return parent_; }
+    QORStatus GetType(QORUnicodeString& oType) const;
+
+    // Answer of QORISpecObject.
+    unsigned char IsOfType(const QORUnicodeString& iType) const;
+
+    // Answer of QORISPPChildManagement.
+    QORListValQORBaseUnknown_var* GetChildren(const QORUnicodeString& iType) const;
+
+    // Answers of QORISPPFlowMgt. "Activity" is the type of all activities and logical nodes.
+    QORListValQORBaseUnknown_var GetPredecessors(const QORUnicodeString& iType) const;
+    QORListValQORBaseUnknown_var GetSuccessors(const QORUnicodeString& iType) const;
+    QORListValQORBaseUnknown_var GetProductOutputs(const QORISPPItem_var& iItem) const;
+
+    // Answer of QORISPPItemMgt.
+    QORListValQORBaseUnknown_var* GetItems(const QORUnicodeString& iKind, int iRelation) const;
+
+private:
+    bool matches(const QORUnicodeString& type) const;
+    QORListValQORBaseUnknown_var* newAllItems() const;
+
+    ActivityKind kind_ = ActivityKind::Activity;
+    bool hasOwnKind_ = false;
+    std::unique_ptr<std::string> type_;
+    Activity* parent_ = nullptr;
+    QORISPPActivityTie<Activity> step_{this};
+    QORISPPAbstractActivityTie<Activity> abstract_{this};
+    QORISpecObjectTie<Activity> spec_{this};
+    QORISPPChildManagementTie<Activity> childManagement_{this};
+    QORISPPFlowMgtTie<Activity> flow_{this};
+    QORISPPItemMgtTie<Activity> itemManagement_{this};
+};
+
+} // namespace planner

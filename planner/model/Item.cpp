@@ -1,0 +1,67 @@
+#include "planner/model/Item.h"
+
+#include "planner/model/ProductAnswers.h"
+
+namespace planner {
+
+const Geometry& Item::geometry() const {
+    static const Geometry none;
+    return geometry_ ? *geometry_ : none;
+}
+
+Geometry& Item::makeGeometry() {
+    if (!geometry_) {
+        geometry_ = std::make_unique<Geometry>();
+    }
+    return *geometry_;
+}
+
+QORStatus Item::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    const QORStatus status = QORAnswer(iInterface, oInterface, item_);
+    return status < 0 ? ModelObject::QueryInterface(iInterface, oInterface) : status;
+}
+
+QORStatus Product::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    if (answersProduct() && QORAnswer(iInterface, oInterface, product_) >= 0) {
+        return QOR_OK;
+    }
+    return Item::QueryInterface(iInterface, oInterface);
+}
+
+void Product::forgetNeighbours() {
+    children.reset();
+}
+
+QORListValQORBaseUnknown_var* Product::GetChildren(const char* iInterface) const {
+    return newHandlesAnswering(children, iInterface);
+}
+
+QORStatus Product::GetInstanceName(QORUnicodeString& oName) const {
+    oName = platformText(name());
+    return QOR_OK;
+}
+
+QORStatus Assembly::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    const QORStatus status = QORAnswer(iInterface, oInterface, assembly_);
+    return status < 0 ? Product::QueryInterface(iInterface, oInterface) : status;
+}
+
+void Assembly::forgetNeighbours() {
+    Product::forgetNeighbours();
+    holds.reset();
+}
+
+QORStatus Assembly::GetAssignedProducts(QORListValQORBaseUnknown_var*& oProducts) const {
+    if (!holds.present()) {
+        return QOR_FAILED;
+    }
+    oProducts = newHandles(holds);
+    return QOR_OK;
+}
+
+QORStatus Fastener::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    const QORStatus status = QORAnswer(iInterface, oInterface, fastener_);
+    return status < 0 ? Item::QueryInterface(iInterface, oInterface) : status;
+}
+
+} // namespace planner

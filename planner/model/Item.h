@@ -1,0 +1,103 @@
+#pragma once
+
+#include "planner/model/Geometry.h"
+#include "planner/model/Kinds.h"
+#include "planner/model/ModelObject.h"
+
+#include "model/QORIProduct.h"
+#include "model/QORISPPItem.h"
+#include "model/VXMIBIWFastener.h"
+#include "model/VXMIMfgAssembly.h"
+
+namespace planner {
+
+/// Something that activities and resources list. This class alone is the kind "item": a tool, a jig.
+class Item : public ModelObject {
+public:
+    explicit Item(ItemKind kind = ItemKind::Item) : ModelObject(Sort::Item), kind_(kind) {}
+
+    ItemKind kind() const { return kind_; }
+
+    /// Whether the item is a product occurrence, which may stand among the children of another.
+    virtual bool answersProduct() const { return false; }
+
+    const Geometry& geometry() const;
+    void setShape(Shape shape) { makeGeometry().shape = std::move(shape); }
+    void setPlace(Place place) { makeGeometry().place = std::move(place); }
+
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+    void forgetNeighbours() override {}
+
+    // Answer of QORISPPItem, and of VXMIMfgAssembly.
+    QORUnicodeString GetName() const { return platformText(name()); }
+
+private:
+    Geometry& makeGeometry();
+
+    ItemKind kind_;
+    std::unique_ptr<Geometry> geometry_;
+    QORISPPItemTie<Item> item_{this};
+};
+
+/// A product occurrence with its structure.
+class Product : public Item {
+public:
+    explicit Product(ItemKind kind = ItemKind::Product) : Item(kind) {}
+
+    /// Child occurrences, in order.
+    ObjectList children;
+
+    bool answersProduct() const override { return true; }
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+    void forgetNeighbours() override;
+
+    // Answers of QORIProduct.
+    QORListValQORBaseUnknown_var* GetChildren(const char* iInterface) const;
+    QORUnicodeString GetProductName() const { return platformText(name()); }
+    QORStatus GetInstanceName(QORUnicodeString& oName) const;
+
+private:
+    QORIProductTie<Product> product_{this};
+};
+
+/// A manufacturing assembly. It is a product occurrence as well once it has children, be it an empty list of them.
+class Assembly final : public Product {
+public:
+    Assembly() : Product(ItemKind::Assembly) {}
+
+    /// What the assembly holds, items of any kind.
+    ObjectList holds;
+
+    bool answersProduct() const override { return children.present(); }
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+    void forgetNeighbours() override;
+
+    // Answer of VXMIMfgAssembly.
+    QORStatus GetAssignedProducts(QORListValQORBaseUnknown_var*& oProducts) const;
+
+private:
+    VXMIMfgAssemblyTie<Assembly> assembly_{this};
+};
+
+/// A joining element.
+class Fastener final : public Item {
+public:
+    Fastener() : Item(ItemKind::Fastener) {}
+
+    /// Process type, any text; empty when the file gives none.
+    std::optional<std::string> type;
+
+    /// Whether it counts as assigned; without a value it does.
+    std::optional<bool> assigned;
+
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+
+    // Answers of VXMIBIWFastener.
+    QORUnicodeString GetProcessType() const { return platformText(type.value_or("")); }
+    unsigned char IsAssigned() const { return assigned.value_or(true) ? 1 : 0; }
+
+private:
+    VXMIBIWFastenerTie<Fastener> fastener_{this};
+};
+
+} // namespace planner
