@@ -1,0 +1,229 @@
+#pragma once
+
+#include "VXMExport.h"
+#include "collections/QORHashDico.h"
+#include "collections/QORListValQORBaseUnknown_var.h"
+#include "collections/QORListValQORUnicodeString.h"
+#include "collections/QORRawCollPV.h"
+#include "dom/DOM_Document.h"
+#include "nodes/VXMFabFlowNode.h"
+#include "nodes/VXMFabIDCounts.h"
+#include "nodes/VXMFabMBOMNode.h"
+#include "nodes/VXMFabMBOMRegister.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+class VXMFirstItemSearch;
+class VXMFlowWalk;
+class VXMStationMemo;
+
+/// Derives the manufacturing bill of materials of one model object, the root: a document and a list of objects.
+///
+/// A subclass walks its kind of model into a flow graph; this class turns the graph into a tree of MBOM nodes, cleans
+/// the tree and writes the document. Settings and the choice of the algorithm are taken once, at construction. Not
+/// counted: whoever makes a generator deletes it. It owns its flow nodes and MBOM nodes and replaces them with each
+/// computation. An exception of the model passes through; what the last successful computation gave is then back in
+/// place, and the next GetBom computes anew.
+class VXM_EXPORT VXMBomGenerator {
+public:
+    using AssignmentType = VXMFabMBOMNode::AssignmentType;
+
+    /// Keeps a reference to iRoot, which may be null: the bill is empty then.
+    explicit VXMBomGenerator(const QORBaseUnknown_var& iRoot);
+    virtual ~VXMBomGenerator();
+    VXMBomGenerator(const VXMBomGenerator&) = delete;
+    VXMBomGenerator& operator=(const VXMBomGenerator&) = delete;
+
+    // The walk of the model, which a subclass supplies.
+
+    /// Walks the model from iCurrent, which is registered already: makes, registers and links a flow node for each step
+    /// that it reaches. iPrevious is the node after which iCurrent comes, null for none; iLevel is the depth. Gives the
+    /// end of the flow through iCurrent, from which the caller links on.
+    virtual VXMFabFlowNode* CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) = 0;
+
+    /// The item at which the flow through iItem begins; on a loop the first one that is met a second time.
+    virtual QORBaseUnknown_var GetFirstFlowNode(const QORBaseUnknown_var& iItem) = 0;
+
+    /// 1 when iItem stands outside all flows and is left out of the walk, else 0.
+    virtual unsigned char IsStandaloneLogicalNode(const QORBaseUnknown_var& iItem) = 0;
+
+    /// A new flow node for iItem with the number GetCounter, or null. The caller owns it until it is registered.
+    virtual VXMFabFlowNode* CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) = 0;
+
+    // The computation.
+
+    /// The document. 1 forces a new computation; with any other value a document that is there is served as it is.
+    /// Copy the handle: the next computation replaces what the reference refers to.
+    DOM_Document& GetBom(unsigned char iForce);
+
+    /// The object behind every element of the document but the top one, an element's descendants before itself.
+    QORListValQORBaseUnknown_var GetPreviewObjects() { return _previewObjects; }
+
+    /// Runs the analysis of the model: drops graph and tree, makes the node of the root and walks from it.
+    void MainCheckFlow();
+
+    /// The end of the flow along first successors, null for null; in a loop the node whose first successor it has
+    /// already been at.
+    VXMFabFlowNode* GetLastNodeInFlow(VXMFabFlowNode* iNode);
+
+    /// The flow node that is registered for a model object, or null.
+    VXMFabFlowNode* CheckUse(const QORBaseUnknown_var& iObject);
+
+    // Registries.
+
+    VXMFabMBOMNode* GetTopNode() const { return _topNode; }
+    void SetTopNode(VXMFabMBOMNode* iNode) { _topNode = iNode; }
+
+    /// Number that the next flow node gets, from 1.
+    int GetCounter() const { return _counter; }
+    void IncreaseCounter() { ++_counter; }
+
+    /// Mask of the fastener types to show, and 1 for assigned fasteners only.
+    int GetFastenersShowMode() const { return _fastenersShowMode; }
+    unsigned char GetAssignedFastenersShowMode() const { return _assignedFastenersShowMode; }
+
+    /// Registers a new flow node, which the generator owns from then on. A null node takes a number all the same and
+    /// leaves a null entry in the list, but none in the dictionary.
+    void UpdateFlowNodeLists(VXMFabFlowNode* iNode);
+    void InsertToFlowNodeDico(VXMFabFlowNode* iNode);
+    void AppendToFlowNodeList(VXMFabFlowNode* iNode);
+
+    /// Registers an MBOM node, which the generator owns from then on. Null is ignored, and so is a node of no known
+    /// type.
+    void AddMBOMNodeToList(VXMFabMBOMNode* iNode);
+
+    /// Drop the flow graph, and the MBOM tree.
+    void FreeFN();
+    void FreeMN();
+
+    // Construction of the MBOM.
+
+    /// Makes the nodes of iFlowNode and of all that comes before it as children of the top node, with the structure of
+    /// each product below it. A flow node is taken once per path that leads from it to the end.
+    void CreateMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber);
+
+    /// The older way: nodes of a step, and of all that comes before it, stand under the step's first output product;
+    /// structure comes from assemblies only.
+    void CreateOldMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber);
+
+    /// Makes the nodes of what iNode's product is made of, and gives the number to go on with. iPath holds the objects
+    /// that were expanded on the way down to iNode; an assembly that is among them stays a leaf.
+    int CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber, QORListValQORBaseUnknown_var iPath);
+
+    /// The same from manufacturing assemblies alone, for the older way.
+    int CreateOldMAChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber);
+
+    /// 1 when a flow node's list of that type takes part in the bill: inside a station only what loading activities
+    /// assign first does.
+    unsigned char UseProducts(VXMFabFlowNode* iFlowNode, AssignmentType iType);
+
+    // Cleaning of the MBOM. Nodes are of one product when they share the identity number.
+
+    /// Pairs each removal of a product with an assignment that stands beside it, and takes both away.
+    void CleanMBOM_RemoveAssignments();
+
+    /// Takes away process assignments of products that are assigned otherwise under the same parent.
+    void CleanMBOM_ProcessAssignments();
+
+    /// Takes away every removable node whose product was met before, with all below it. ioMet holds what was met.
+    void CleanMBOM_3(VXMFabMBOMNode* iNode, QORHashDico& ioMet);
+
+    /// Passes of the older way: repeats among the children of iNode go without what is below them, deeper ones with
+    /// it; and repeats beside each other at any level.
+    void CleanMBOM_1(VXMFabMBOMNode* iNode, QORHashDico& ioMet);
+    void CleanMBOM_2(VXMFabMBOMNode* iNode);
+
+    /// One step of the passes; 1 when iNode was removed, else 0.
+    unsigned char CheckPreviousAssignments(VXMFabMBOMNode* iNode);
+    unsigned char CheckPreviousFPAssignments(VXMFabMBOMNode* iNode);
+
+    /// The first assignment of iNode's product beside it, or null. Nothing is changed.
+    VXMFabMBOMNode* RemoveParallelRemoveAssignment(VXMFabMBOMNode* iNode);
+    VXMFabMBOMNode* RemoveParallelProcessAssignment(VXMFabMBOMNode* iNode);
+
+    /// The first assignment below iNode that has the identity of its own parent, or null. Nothing is changed.
+    VXMFabMBOMNode* RemoveRemoveAssignment(VXMFabMBOMNode* iNode);
+    VXMFabMBOMNode* RemoveProcessAssignment(VXMFabMBOMNode* iNode);
+
+    /// Take a node out of the tree and delete it: alone, its children going to the end of its parent's list; or with
+    /// all below it. 0 for null and for a node without parent, else 1.
+    unsigned char RemoveNodeFromMBOMFlow(VXMFabMBOMNode* iNode);
+    unsigned char RemoveNodeAndChildrenFromMBOMFlow(VXMFabMBOMNode* iNode);
+
+    /// Unregister and delete a node, or a whole subtree with the children first. 0 for null, else 1.
+    unsigned char RemoveFromListAndDico(VXMFabMBOMNode* iNode);
+    unsigned char RemoveNodeAndChildrenFromListAndDico(VXMFabMBOMNode* iNode);
+
+    /// Appends the source's children to the target's, and changes nothing else.
+    void MoveSuccessors(VXMFabMBOMNode* iSource, VXMFabMBOMNode* iTarget);
+
+    // Output.
+
+    /// Writes the children of iNode under iElement and adds their objects to the list of objects.
+    void DisplayMBOM(DOM_Element iElement, VXMFabMBOMNode* iNode);
+
+    /// Dumps to the trace: names and links of the flow nodes; names, and links, of the MBOM nodes.
+    void TraceFlow();
+    void TraceMBOM1();
+    void TraceMBOM2();
+
+protected:
+    /// GetFirstFlowNode for a subclass that knows an item's first predecessor, none where the flow begins. It calls
+    /// itself through the object, at any depth.
+    QORBaseUnknown_var SearchFirstItem(const QORBaseUnknown_var& iItem,
+                                       const std::function<std::optional<QORBaseUnknown_var>()>& iFirstPredecessor);
+
+    /// Which activities stand in stations, for the length of one computation.
+    VXMStationMemo& Stations() { return *_stations; }
+
+private:
+    friend class VXMFlowWalk;
+    friend class VXMStructureExpansion;
+    class Computation;
+    class RepeatMarks;
+
+    void ReadSettings();
+    void ReadAlgorithm();
+    void MakeTopNode();
+    void BuildAndClean(VXMFabFlowNode* iLast);
+    void TraceFlowNodes();
+
+    template <class TakeStep>
+    void WalkBackwards(const char* iMark, VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber,
+                       TakeStep iTakeStep);
+    VXMFabMBOMNode* AttachNode(const QORBaseUnknown_var& iProduct, int iLevel, int iNumber, AssignmentType iType,
+                               unsigned char iRemovable, VXMFabMBOMNode* iParent);
+
+    VXMFabMBOMNode* FindAssignmentBeside(VXMFabMBOMNode* iNode);
+    VXMFabMBOMNode* FindRepeatBelow(VXMFabMBOMNode* iNode);
+    bool MayHaveRepeatBelow(const VXMFabMBOMNode* iNode) const;
+    bool IsAssigned(const VXMFabMBOMNode* iNode) const;
+
+    int _counter = 1;
+    int _fastenersShowMode = 0;
+    unsigned char _assignedFastenersShowMode = 0;
+    QORRawCollPV _flowNodeList;
+    QORHashDico _flowNodeDico{10};
+    DOM_Document _document;
+    DOM_Element _rootElement;
+    QORBaseUnknown_var _rootObject;
+    unsigned char _bomBuilt = 0;
+    QORListValQORBaseUnknown_var _previewObjects;
+    VXMFabFlowNode* _firstFlowNode = nullptr;
+    std::array<VXMFabMBOMRegister, 6> _mbomNodes; // by assignment type: the living nodes of the MBOM
+    std::array<VXMFabIDCounts, 6> _mbomNodeIDs;   // by assignment type: the identity numbers of those nodes
+    QORListValQORUnicodeString _removedIDs;
+    QORListValQORUnicodeString _usedIDs;
+    QORRawCollint _usedIDCounts;
+    unsigned char _useOldAlgorithm = 0;
+    VXMFabMBOMNode* _topNode = nullptr;
+
+    std::unique_ptr<VXMFirstItemSearch> _firstItems;
+    std::unique_ptr<VXMStationMemo> _stations;
+    std::unordered_map<int, int> _childVisits; // child visits under way: identity number, objects met at its start
+    const RepeatMarks* _repeatMarks = nullptr; // only while a pass runs
+};

@@ -1,0 +1,129 @@
+// Dumps of the flow graph and of the MBOM tree. None of them costs anything while the trace is off.
+
+#include "VXMBomViewerTrace.h"
+#include "generation/VXMBomGenerator.h"
+
+namespace {
+
+constexpr int kLastTypeListed = VXMFabMBOMNode::AT_Create; // fasteners aren't listed
+
+template <class Visit>
+void ForEachEntry(const QORHashDico& iNodes, Visit iVisit) {
+    int position = 0;
+    int visited = 0;
+    while (void* const node = iNodes.NextItem(position, visited)) {
+        iVisit(*static_cast<const VXMFabFlowNode*>(node));
+    }
+}
+
+template <class Visit>
+void ForEachNode(const VXMFabPlaces& iNodes, Visit iVisit) {
+    for (int place = 0; place < iNodes.End(); ++place) {
+        if (VXMFabMBOMNode* const node = iNodes.At(place)) {
+            iVisit(*node);
+        }
+    }
+}
+
+using Count = int (VXMFabFlowNode::*)() const;
+using Neighbour = VXMFabFlowNode* (VXMFabFlowNode::*)(int iPosition) const;
+
+/// "P1: 2" for each neighbour of the per-node dump.
+void PutNumbered(const VXMFabFlowNode& iNode, Count iCount, Neighbour iNeighbour, const char* iLabel) {
+    for (int position = 1; position <= (iNode.*iCount)(); ++position) {
+        if (const VXMFabFlowNode* const neighbour = (iNode.*iNeighbour)(position)) {
+            VXMBomViewerTrace.TraPutX(iLabel, position);
+            VXMBomViewerTrace.TraPutX(": ", neighbour->GetNumber());
+        }
+    }
+}
+
+/// " P 2 3" for all neighbours of the flow links.
+void PutListed(const VXMFabFlowNode& iNode, Count iCount, Neighbour iNeighbour, const char* iLabel) {
+    if ((iNode.*iCount)() == 0) {
+        return;
+    }
+    VXMBomViewerTrace.TraPut(iLabel);
+    for (int position = 1; position <= (iNode.*iCount)(); ++position) {
+        if (const VXMFabFlowNode* const neighbour = (iNode.*iNeighbour)(position)) {
+            VXMBomViewerTrace.TraPutX(" ", neighbour->GetNumber());
+        }
+    }
+}
+
+void PutTypeHeading(int iType) {
+    VXMBomViewerTrace.TraPutX("--- ", iType);
+    VXMBomViewerTrace.TraPutLN("--- ");
+}
+
+void PutLinks(VXMFabMBOMNode& iNode) {
+    VXMBomViewerTrace.TraPutX("N ", iNode.GetNumber());
+    if (iNode.GetPredecessor()) {
+        VXMBomViewerTrace.TraPutX(" P ", iNode.GetPredecessor()->GetNumber());
+    }
+    ForEachNode(iNode.GetSuccessorPlaces(),
+                [](const VXMFabMBOMNode& iChild) { VXMBomViewerTrace.TraPutX(" S ", iChild.GetNumber()); });
+    VXMBomViewerTrace.TraPutLN(" *");
+}
+
+} // namespace
+
+void VXMBomGenerator::TraceFlowNodes() {
+    if (!VXMBomViewerTrace.IsActive()) {
+        return;
+    }
+    for (const void* entry : _flowNodeList) {
+        if (const auto* const node = static_cast<const VXMFabFlowNode*>(entry)) {
+            VXMBomViewerTrace.TraPutX("Number ", node->GetNumber());
+            PutNumbered(*node, &VXMFabFlowNode::GetNumberOfPredecessors, &VXMFabFlowNode::GetPredecessor, "P");
+            PutNumbered(*node, &VXMFabFlowNode::GetNumberOfSuccessors, &VXMFabFlowNode::GetSuccessor, "S");
+            VXMBomViewerTrace.TraPutLN(" *");
+        }
+    }
+}
+
+void VXMBomGenerator::TraceFlow() {
+    if (!VXMBomViewerTrace.IsActive()) {
+        return;
+    }
+    ForEachEntry(_flowNodeDico, [](const VXMFabFlowNode& iNode) {
+        VXMBomViewerTrace.TraPut("Number: ");
+        VXMBomViewerTrace.TraPutX("", iNode.GetNumber());
+        VXMBomViewerTrace.TraPut(" Name: ");
+        VXMBomViewerTrace.TraPutLN(iNode.GetName());
+    });
+    VXMBomViewerTrace.TraPutLN("Flow: Node Number (N), Predecessor (P) und Successors (S)");
+    ForEachEntry(_flowNodeDico, [](const VXMFabFlowNode& iNode) {
+        VXMBomViewerTrace.TraPut("N: ");
+        VXMBomViewerTrace.TraPutX("", iNode.GetNumber());
+        PutListed(iNode, &VXMFabFlowNode::GetNumberOfPredecessors, &VXMFabFlowNode::GetPredecessor, " P ");
+        PutListed(iNode, &VXMFabFlowNode::GetNumberOfSuccessors, &VXMFabFlowNode::GetSuccessor, " S ");
+        VXMBomViewerTrace.TraPutLN(" *");
+    });
+}
+
+void VXMBomGenerator::TraceMBOM1() {
+    if (!VXMBomViewerTrace.IsActive()) {
+        return;
+    }
+    VXMBomViewerTrace.TraPutLN("--- TRACE 1 ---");
+    for (int type = VXMFabMBOMNode::AT_Top; type <= kLastTypeListed; ++type) {
+        PutTypeHeading(type);
+        ForEachNode(_mbomNodes[type].GetPlaces(), [](const VXMFabMBOMNode& iNode) {
+            VXMBomViewerTrace.TraPutX("N ", iNode.GetNumber());
+            VXMBomViewerTrace.TraPut(" ");
+            VXMBomViewerTrace.TraPutLN(iNode.GetName());
+        });
+    }
+}
+
+void VXMBomGenerator::TraceMBOM2() {
+    if (!VXMBomViewerTrace.IsActive()) {
+        return;
+    }
+    VXMBomViewerTrace.TraPutLN("--- TRACE 2 ---\n");
+    for (int type = VXMFabMBOMNode::AT_Top; type <= kLastTypeListed; ++type) {
+        PutTypeHeading(type);
+        ForEachNode(_mbomNodes[type].GetPlaces(), PutLinks);
+    }
+}

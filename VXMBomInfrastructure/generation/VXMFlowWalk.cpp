@@ -1,0 +1,162 @@
+#include "generation/VXMFlowWalk.h"
+
+#include "VXMBomViewerTrace.h"
+#include "framework/QORDeepStack.h"
+#include "framework/QORModelIdentificator.h"
+#include "generation/VXMBomGenerator.h"
+#include "model/QORISPPAbstractActivity.h"
+#include "model/QORISpecObject.h"
+
+#include <memory>
+
+namespace {
+
+enum class TypeLine { Written, LeftOut };
+
+void TraceItem(const QORBaseUnknown_var& iItem, TypeLine iTypeLine) {
+    if (!VXMBomViewerTrace.IsActive()) {
+        return;
+    }
+    const QORISPPAbstractActivity_var activity(iItem);
+    if (!activity) {
+        return;
+    }
+    VXMBomViewerTrace.TraPut("Name: ");
+    VXMBomViewerTrace.TraPutLN(activity->GetName());
+    if (iTypeLine == TypeLine::Written) {
+        QORUnicodeString type;
+        activity->GetType(type);
+        VXMBomViewerTrace.TraPut("Type: ");
+        VXMBomViewerTrace.TraPutLN(type);
+    }
+}
+
+void TraceNodeName(const char* iLabel, const VXMFabFlowNode* iNode) {
+    if (VXMBomViewerTrace.IsActive()) {
+        VXMBomViewerTrace.TraPut(iLabel);
+        VXMBomViewerTrace.TraPutLN(iNode->GetName());
+    }
+}
+
+} // namespace
+
+/// A visit of a child that is under way, from the registration of its node to the end of its walk.
+///
+/// Meeting the same child again below, with no object having got its first node in between, would go round for ever: a
+/// parent that is linked to its own child does it.
+class VXMFlowWalk::ChildVisit {
+public:
+    ChildVisit(VXMBomGenerator& ioGenerator, const QORBaseUnknown_var& iChild)
+        : _visits(ioGenerator._childVisits), _id(QORModelIdentificator(iChild->GetImpl(0)).GetIntId()) {
+        const auto [place, isNew] = _visits.try_emplace(_id, 0);
+        _outer = isNew ? kNone : place->second;
+        place->second = ioGenerator._flowNodeDico.Size();
+    }
+    ~ChildVisit() {
+        if (_outer == kNone) {
+            _visits.erase(_id);
+        } else {
+            _visits[_id] = _outer;
+        }
+    }
+    ChildVisit(const ChildVisit&) = delete;
+    ChildVisit& operator=(const ChildVisit&) = delete;
+
+    static bool WouldGoRound(const VXMBomGenerator& iGenerator, const QORBaseUnknown_var& iChild) {
+        const auto place = iGenerator._childVisits.find(QORModelIdentificator(iChild->GetImpl(0)).GetIntId());
+        return place != iGenerator._childVisits.end() && place->second == iGenerator._flowNodeDico.Size();
+    }
+
+private:
+    static constexpr int kNone = -1;
+
+    std::unordered_map<int, int>& _visits;
+    int _id;
+    int _outer;
+};
+
+VXMFlowWalk::VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel)
+    : _generator(ioGenerator), _previous(iPrevious), _current(iCurrent), _level(iLevel), _last(iPrevious) {}
+
+void VXMFlowWalk::VisitChildren(const QORListValQORBaseUnknown_var& iChildren, Standalone iStandalone) {
+    const int count = iChildren.Size();
+    for (int position = 1; position <= count; ++position) {
+        VisitChild(iChildren[position], iStandalone);
+    }
+}
+
+void VXMFlowWalk::VisitChild(const QORBaseUnknown_var& iChild, Standalone iStandalone) {
+    TraceItem(iChild, TypeLine::Written);
+    if (iStandalone == Standalone::LeftOut && _generator.IsStandaloneLogicalNode(iChild) == 1) {
+        return;
+    }
+    if (!iChild || _generator.CheckUse(iChild)) {
+        return;
+    }
+    QORBaseUnknown_var first =
+        ChildVisit::WouldGoRound(_generator, iChild) ? iChild : _generator.GetFirstFlowNode(iChild);
+    if (!QORISpecObject_var(first)) {
+        return;
+    }
+    VXMFabFlowNode* node = nullptr;
+    MakeNode(first, _level + 1, NullNode::Registered, node);
+    first = nullptr;
+    const ChildVisit visit(_generator, iChild);
+    WalkOn(_previous, node, _level + 1);
+}
+
+void VXMFlowWalk::Link() {
+    if (_last) {
+        LinkNodes(_last, _current, "Predecessor: ", "Successor: ");
+        _last = _current;
+    }
+}
+
+void VXMFlowWalk::VisitSuccessors(const QORListValQORBaseUnknown_var& iSuccessors, NullNode iNullNode) {
+    const int count = iSuccessors.Size();
+    for (int position = 1; position <= count; ++position) {
+        VisitSuccessor(iSuccessors[position], iNullNode);
+    }
+}
+
+void VXMFlowWalk::VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode) {
+    TraceItem(iSuccessor, TypeLine::LeftOut);
+    if (VXMFabFlowNode* const known = _generator.CheckUse(iSuccessor)) {
+        LinkNodes(_current, known, "**Predecessor: ", "**Successor: ");
+        _last = _generator.GetLastNodeInFlow(_current);
+        return;
+    }
+    VXMFabFlowNode* node = nullptr;
+    if (MakeNode(iSuccessor, _level, iNullNode, node)) {
+        WalkOn(_current, node, _level);
+    }
+}
+
+void VXMFlowWalk::EndAtCurrent() {
+    if (!_last) {
+        _last = _current;
+    }
+}
+
+/// Makes and registers a node; false when there is none and a null node isn't to be registered.
+bool VXMFlowWalk::MakeNode(const QORBaseUnknown_var& iItem, int iLevel, NullNode iNullNode, VXMFabFlowNode*& oNode) {
+    std::unique_ptr<VXMFabFlowNode> node(_generator.CreateFlowNode(iItem, iLevel));
+    if (!node && iNullNode == NullNode::Skipped) {
+        return false;
+    }
+    _generator.UpdateFlowNodeLists(node.get());
+    oNode = node.release();
+    return true;
+}
+
+void VXMFlowWalk::WalkOn(VXMFabFlowNode* iFrom, VXMFabFlowNode* iNode, int iLevel) {
+    QORCallDeep([this, iFrom, iNode, iLevel] { _last = _generator.CheckFlow(iFrom, iNode, iLevel); });
+}
+
+void VXMFlowWalk::LinkNodes(VXMFabFlowNode* iBefore, VXMFabFlowNode* iAfter, const char* iBeforeLabel,
+                            const char* iAfterLabel) {
+    iBefore->AddSuccessor(iAfter);
+    iAfter->AddPredecessor(iBefore);
+    TraceNodeName(iBeforeLabel, iBefore);
+    TraceNodeName(iAfterLabel, iAfter);
+}

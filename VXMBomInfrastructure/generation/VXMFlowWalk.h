@@ -1,0 +1,53 @@
+#pragma once
+
+#include "collections/QORListValQORBaseUnknown_var.h"
+
+class VXMBomGenerator;
+class VXMFabFlowNode;
+
+/// One call of CheckFlow: what the walks of all kinds of model do alike for one flow node. The order of the steps is
+/// behaviour: it decides node numbers, the order of links and so that of the bill.
+///
+/// Each child's flow starts from the node that came before this one, so that all flows under one parent start side by
+/// side; the node itself comes after the last of them.
+class VXMFlowWalk {
+public:
+    VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel);
+
+    /// Which children stay out of the flow, and what becomes of a successor for which no node can be made.
+    enum class Standalone { LeftOut, Walked };
+    enum class NullNode { Skipped, Registered };
+
+    /// Visits the children in list order: those that have no node yet are walked from the start of their flow.
+    void VisitChildren(const QORListValQORBaseUnknown_var& iChildren, Standalone iStandalone);
+
+    /// Links the node behind the end of its children's flow, or behind what came before it.
+    void Link();
+
+    /// Visits the successors in list order: those that have a node are linked, the others walked.
+    void VisitSuccessors(const QORListValQORBaseUnknown_var& iSuccessors, NullNode iNullNode);
+
+    /// Whether the links of the node itself are followed: those of the root never are.
+    bool FollowsLinks() const { return _level > 0; }
+
+    /// Makes the node its own end where nothing came before it and it has no walked child.
+    void EndAtCurrent();
+
+    /// The end of the flow as far as this call has followed it, null while there is none.
+    VXMFabFlowNode* GetLast() const { return _last; }
+
+private:
+    class ChildVisit;
+
+    void VisitChild(const QORBaseUnknown_var& iChild, Standalone iStandalone);
+    void VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode);
+    bool MakeNode(const QORBaseUnknown_var& iItem, int iLevel, NullNode iNullNode, VXMFabFlowNode*& oNode);
+    void WalkOn(VXMFabFlowNode* iFrom, VXMFabFlowNode* iNode, int iLevel);
+    void LinkNodes(VXMFabFlowNode* iBefore, VXMFabFlowNode* iAfter, const char* iBeforeLabel, const char* iAfterLabel);
+
+    VXMBomGenerator& _generator;
+    VXMFabFlowNode* _previous;
+    VXMFabFlowNode* _current;
+    int _level;
+    VXMFabFlowNode* _last;
+};

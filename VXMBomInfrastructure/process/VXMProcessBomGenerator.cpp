@@ -1,0 +1,58 @@
+// The walk of a process plan. The flow enters the first child of an activity where it would have entered the activity,
+// runs through the children and leaves through the activity: a parent stands for the moment when its children's work is
+// done. See VXMFlowWalk for the steps, and VXMResourceBomGenerator for the walk of a resource beside this one.
+
+#include "process/VXMProcessBomGenerator.h"
+
+#include "generation/VXMFlowWalk.h"
+#include "model/QORISPPActivity.h"
+#include "model/QORISpecObject.h"
+#include "nodes/VXMFabProcessFlowNode.h"
+#include "process/VXMActivityLinks.h"
+
+VXMProcessBomGenerator::VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot) : VXMBomGenerator(iRoot) {}
+
+VXMProcessBomGenerator::~VXMProcessBomGenerator() = default;
+
+VXMFabFlowNode* VXMProcessBomGenerator::CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) {
+    if (!iCurrent) {
+        return iPrevious;
+    }
+    VXMFlowWalk walk(*this, iPrevious, iCurrent, iLevel);
+    TraceFlow();
+    const QORBaseUnknown_var activity = iCurrent->GetActivity();
+    if (!QORISpecObject_var(activity)) {
+        return iPrevious;
+    }
+    if (const auto children = VXMActivityLinks::Children(activity)) {
+        walk.VisitChildren(*children, VXMFlowWalk::Standalone::LeftOut);
+    }
+    TraceFlow();
+    walk.Link();
+    TraceFlow();
+    const QORISPPFlowMgt_var flow(activity);
+    if (flow && walk.FollowsLinks()) {
+        walk.VisitSuccessors(VXMActivityLinks::Successors(flow), VXMFlowWalk::NullNode::Skipped);
+    }
+    return walk.GetLast();
+}
+
+QORBaseUnknown_var VXMProcessBomGenerator::GetFirstFlowNode(const QORBaseUnknown_var& iItem) {
+    return SearchFirstItem(iItem, [&iItem]() -> std::optional<QORBaseUnknown_var> {
+        const QORISPPFlowMgt_var flow(iItem);
+        return flow ? VXMActivityLinks::FirstPredecessor(flow) : std::nullopt;
+    });
+}
+
+unsigned char VXMProcessBomGenerator::IsStandaloneLogicalNode(const QORBaseUnknown_var& iItem) {
+    if (QORISPPActivity_var(iItem)) {
+        return 0;
+    }
+    const QORISPPFlowMgt_var flow(iItem);
+    return flow && !VXMActivityLinks::HasLinks(flow) ? 1 : 0;
+}
+
+VXMFabFlowNode* VXMProcessBomGenerator::CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) {
+    return new VXMFabProcessFlowNode(QORISPPAbstractActivity_var(iItem), iLevel, GetCounter(), GetFastenersShowMode(),
+                                     GetAssignedFastenersShowMode(), &Stations());
+}

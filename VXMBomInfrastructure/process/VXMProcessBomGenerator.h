@@ -1,0 +1,19 @@
+#pragma once
+
+#include "generation/VXMBomGenerator.h"
+
+/// Generator for a process plan: a tree of activities whose siblings are joined by control-flow links.
+class VXM_EXPORT VXMProcessBomGenerator : public VXMBomGenerator {
+public:
+    explicit VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot);
+    ~VXMProcessBomGenerator() override;
+
+    VXMFabFlowNode* CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) override;
+    QORBaseUnknown_var GetFirstFlowNode(const QORBaseUnknown_var& iItem) override;
+
+    /// 1 only for what has flow management without any link and is no concrete activity.
+    unsigned char IsStandaloneLogicalNode(const QORBaseUnknown_var& iItem) override;
+
+    /// Never null: an item that is no activity gives a node without content.
+    VXMFabFlowNode* CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) override;
+};
