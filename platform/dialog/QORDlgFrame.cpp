@@ -1,0 +1,52 @@
+#include "dialog/QORDlgFrame.h"
+
+#include "dialog/QORDialogObserver.h"
+#include "framework/QORMetaClass.h"
+
+#include <algorithm>
+
+namespace {
+
+[[maybe_unused]] const QORMetaClass* const kRegistered = QORDlgFrame::ClassMeta();
+
+} // namespace
+
+QORDlgFrame::QORDlgFrame(QORDialog* iParent, const QORString& iName, int iStyle)
+    : QORDialog(iParent, iName), _style(iStyle) {}
+
+QORDlgFrame::~QORDlgFrame() {
+    EndChildren();
+}
+
+QORMetaClass* QORDlgFrame::ClassMeta() {
+    static auto* const meta =
+        new QORMetaClass("QORDlgFrame", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
+    return meta;
+}
+
+QORMetaClass* QORDlgFrame::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QORStatus QORDlgFrame::Attach4Sides(QORDialog* iChild) {
+    if (!iChild || iChild->GetParent() != this || IsAttached(iChild)) {
+        return QOR_FAILED;
+    }
+    _attached.push_back(iChild);
+    QORDialogObserver::TellAll(QORDialogStep::Attached, *this, iChild);
+    LayoutChanged();
+    return QOR_OK;
+}
+
+QORStatus QORDlgFrame::ResetAttachment(QORDialog* iChild) {
+    if (std::erase(_attached, iChild) == 0) {
+        return QOR_FAILED;
+    }
+    QORDialogObserver::TellAll(QORDialogStep::Detached, *this, iChild);
+    LayoutChanged();
+    return QOR_OK;
+}
+
+bool QORDlgFrame::IsAttached(const QORDialog* iChild) const {
+    return std::find(_attached.begin(), _attached.end(), iChild) != _attached.end();
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "dialog/QORDlgDialog.h"
+#include "dialog/QORDlgFrame.h"
+#include "frame/QORFrmEditor.h"
+#include "frame/QORFrmWindowPeer.h"
+#include "text/QORUnicodeString.h"
+#include "visualization/QORViewer.h"
+
+/// A window of the application's frame, with one frame for its content. Whoever makes it lets it go, see QORCommand.
+class QOR_EXPORT QORFrmWindow : public QORDlgDialog, private QORCounted<QORFrmWindow> {
+public:
+    static constexpr std::string_view kCountName = "QORFrmWindow";
+
+    /// A window of that name, which is its first title, for the document that iEditor (null for none) works on.
+    QORFrmWindow(const QORString& iName, QORFrmEditor* iEditor);
+    ~QORFrmWindow() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+
+    /// The editor that the window was made with, null for none and when it has ended.
+    QORFrmEditor* GetEditor() const { return _editor.Get(); }
+
+    /// The frame for the window's content, which belongs to the window; null when the toolkit couldn't show it.
+    QORDlgFrame* GetViewerFrame() const { return _viewerFrame; }
+
+    /// Makes iViewer the one to select in; null for none.
+    void SetViewerSelectable(QORViewer* iViewer);
+
+    /// The viewer to select in, null for none and when it has ended.
+    QORViewer* GetSelectableViewer() const { return _selectableViewer.Get(); }
+
+    void SetBaseName(const QORUnicodeString& iTitle);
+    const QORUnicodeString& GetBaseName() const { return _baseName; }
+
+    /// A person has closed the window: it ends when the dialog loop next runs.
+    void ReportClose() { RequestDelayedDestruction(); }
+
+    /// The toolkit's side, null where there is none.
+    QORFrmWindowPeer* GetPeer() const { return _peer.get(); }
+
+    /// Toolkit for all windows that are made from now on; null for none. Stays the caller's, who keeps it long enough.
+    static void SetToolkit(QORFrmWindowToolkit* iToolkit);
+
+protected:
+    void LayoutChanged() override;
+
+private:
+    QORUnicodeString _baseName;
+    QORWatch<QORFrmEditor> _editor;
+    QORWatch<QORViewer> _selectableViewer;
+    QORDlgFrame* _viewerFrame = nullptr;
+    std::unique_ptr<QORFrmWindowPeer> _peer;
+};

@@ -1,0 +1,99 @@
+// Publishing goes over a snapshot of the subscriptions, each of which says whether it still holds. So nothing that a
+// subscriber does (unsubscribe, subscribe, publish, end itself, the publisher or another subscriber) reaches the loop.
+
+#include "notification/QOREventSubscriber.h"
+
+#include "framework/QORMetaClass.h"
+#include "framework/QORVar.h"
+
+#include <exception>
+
+namespace {
+
+[[maybe_unused]] const QORMetaClass* const kRegistered = QOREventSubscriber::ClassMeta();
+
+long nextHandle = 1;
+
+} // namespace
+
+struct QOREventSubscriber::Subscription {
+    QOREventSubscriber* subscriber;
+    std::string event;
+    QOREventCall call;
+    bool holds = true;
+};
+
+QOREventSubscriber::QOREventSubscriber() = default;
+
+QOREventSubscriber::~QOREventSubscriber() {
+    for (const auto& [handle, subscription] : _subscriptions) {
+        subscription->holds = false;
+        subscription->subscriber->_publishers.erase(handle);
+    }
+    _subscriptions.clear();
+    while (!_publishers.empty()) {
+        Unsubscribe(_publishers.begin()->first);
+    }
+}
+
+QORMetaClass* QOREventSubscriber::ClassMeta() {
+    static auto* const meta = new QORMetaClass("QOREventSubscriber", Implementation, QORMetaClass::OfBaseUnknown(),
+                                               "QORNull", "QORPlatform", nullptr);
+    return meta;
+}
+
+QORMetaClass* QOREventSubscriber::GetMetaObject() const {
+    return ClassMeta();
+}
+
+long QOREventSubscriber::Subscribe(QOREventSubscriber* iSubscriber, const char* iEvent, QOREventCall iCall) {
+    if (!iSubscriber || !iEvent || !iCall) {
+        return kQORNoCallback;
+    }
+    const long handle = nextHandle++;
+    _subscriptions.emplace(handle, std::make_shared<Subscription>(Subscription{iSubscriber, iEvent, std::move(iCall)}));
+    iSubscriber->_publishers.emplace(handle, this);
+    SubscriptionsChanged();
+    return handle;
+}
+
+QORStatus QOREventSubscriber::RemoveCallback(QOREventSubscriber* iPublisher, long iHandle) {
+    return iPublisher == this && Drop(iHandle) ? QOR_OK : QOR_FAILED;
+}
+
+bool QOREventSubscriber::Unsubscribe(long iHandle) {
+    const auto place = _publishers.find(iHandle);
+    return place != _publishers.end() && place->second->Drop(iHandle);
+}
+
+bool QOREventSubscriber::Drop(long iHandle) {
+    const auto place = _subscriptions.find(iHandle);
+    if (place == _subscriptions.end()) {
+        return false;
+    }
+    place->second->holds = false;
+    place->second->subscriber->_publishers.erase(iHandle);
+    _subscriptions.erase(place);
+    SubscriptionsChanged();
+    return true;
+}
+
+void QOREventSubscriber::Publish(const char* iEvent, QORNotification* iNotification) {
+    // Name and notification are held here: the one who gave them may go while subscribers are told.
+    const std::string event(iEvent ? iEvent : "");
+    const QORVar<QORNotification> notification(iNotification);
+    std::exception_ptr first;
+    for (const auto& [handle, subscription] : std::map(_subscriptions)) {
+        if (!subscription->holds || subscription->event != event) {
+            continue;
+        }
+        try {
+            subscription->call(event.c_str(), this, iNotification, handle);
+        } catch (...) {
+            first = first ? first : std::current_exception();
+        }
+    }
+    if (first) {
+        std::rethrow_exception(first);
+    }
+}

@@ -1,0 +1,45 @@
+#include "visualization/QORPathElement.h"
+
+#include "framework/QORMetaClass.h"
+
+namespace {
+
+[[maybe_unused]] const QORMetaClass* const kRegistered = QORPathElement::ClassMeta();
+
+} // namespace
+
+QORPathElement::QORPathElement(QORBaseUnknown* iObject) {
+    AddChildElement(iObject, 0);
+}
+
+QORPathElement::~QORPathElement() = default;
+
+QORMetaClass* QORPathElement::ClassMeta() {
+    static auto* const meta = new QORMetaClass("QORPathElement", Implementation, QORMetaClass::OfBaseUnknown(),
+                                               "QORNull", "QORPlatform", nullptr);
+    return meta;
+}
+
+QORMetaClass* QORPathElement::GetMetaObject() const {
+    return ClassMeta();
+}
+
+void QORPathElement::AddChildElement(QORBaseUnknown* iObject, int iPosition) {
+    if (iObject) {
+        const bool inside = iPosition >= 1 && iPosition <= GetSize();
+        _objects.insert(inside ? _objects.begin() + (iPosition - 1) : _objects.end(), QORBaseUnknown_var(iObject));
+    }
+}
+
+QORBaseUnknown_var QORPathElement::GetElement(int iPosition) const {
+    return iPosition >= 1 && iPosition <= GetSize() ? _objects[iPosition - 1] : QORBaseUnknown_var();
+}
+
+std::vector<QORBaseUnknown*> QORPathElement::GetImplementations() const {
+    std::vector<QORBaseUnknown*> implementations;
+    implementations.reserve(_objects.size());
+    for (const QORBaseUnknown_var& object : _objects) {
+        implementations.push_back(object.Impl());
+    }
+    return implementations;
+}

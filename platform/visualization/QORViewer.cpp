@@ -1,0 +1,142 @@
+#include "visualization/QORViewer.h"
+
+#include "framework/QORMetaClass.h"
+#include "visualization/QOR3DViewpoint.h"
+#include "visualization/QORVisManager.h"
+
+#include <algorithm>
+
+namespace {
+
+[[maybe_unused]] const QORMetaClass* const kRegistered = QORViewer::ClassMeta();
+
+QORViewerToolkit* viewerToolkit = nullptr;
+
+} // namespace
+
+QORViewer::QORViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth, int iHeight, int iOptions)
+    : QORDialog(iParent, iName), _style(iStyle), _options(iOptions), _width(static_cast<float>(iWidth)),
+      _height(static_cast<float>(iHeight)) {}
+
+QORViewer::~QORViewer() {
+    // The peer goes first: nobody paints what is being taken apart.
+    _peer.reset();
+    for (const Place& place : _viewpoints) {
+        QORVisManager::GetVisManager()->ForgetViewpoint(*place.viewpoint.Get());
+        place.viewpoint->_viewer = nullptr;
+    }
+}
+
+QORMetaClass* QORViewer::ClassMeta() {
+    static auto* const meta =
+        new QORMetaClass("QORViewer", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
+    return meta;
+}
+
+QORMetaClass* QORViewer::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QORStatus QORViewer::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    const QORStatus own = QORAnswer(iInterface, oInterface, _redrawEvent);
+    return own < 0 ? QORDialog::QueryInterface(iInterface, oInterface) : own;
+}
+
+void QORViewer::SetToolkit(QORViewerToolkit* iToolkit) {
+    viewerToolkit = iToolkit;
+}
+
+bool QORViewer::MakePeer() {
+    if (viewerToolkit) {
+        _peer = viewerToolkit->MakePeer(*this);
+    }
+    return _peer || !viewerToolkit;
+}
+
+void QORViewer::MakeMain3DViewpoint() {
+    const auto viewpoint = QORVar<QORViewpoint>::Adopt(new QOR3DViewpoint());
+    _main3DViewpoint = viewpoint.Get();
+    viewpoint->AddRef();
+    AddViewpoint(viewpoint.Get(), kQORPlacementBehind);
+}
+
+QORStatus QORViewer::AddViewpoint(QORViewpoint* iViewpoint, int iPlacement) {
+    if (!iViewpoint || iViewpoint->_viewer) {
+        return QOR_FAILED;
+    }
+    _viewpoints.push_back({QORVar<QORViewpoint>(), iPlacement, nullptr});
+    _viewpoints.back().viewpoint = QORVar<QORViewpoint>::Adopt(iViewpoint);
+    iViewpoint->_viewer = this;
+    if (_peer) {
+        _peer->ViewpointAdded(*iViewpoint);
+    }
+    return QOR_OK;
+}
+
+QORStatus QORViewer::SetViewpointEditor(QORViewpoint* iViewpoint, QORViewpointEditor* iEditor) {
+    const auto place = std::find_if(_viewpoints.begin(), _viewpoints.end(),
+                                    [&](const Place& iPlace) { return iPlace.viewpoint.Get() == iViewpoint; });
+    if (!iViewpoint || !iEditor || place == _viewpoints.end()) {
+        return QOR_FAILED;
+    }
+    place->editor = QORVar<QORViewpointEditor>::Adopt(iEditor);
+    if (_peer) {
+        _peer->EditorChanged(*iViewpoint);
+    }
+    return QOR_OK;
+}
+
+QORViewpoint* QORViewer::GetViewpoint(int iPosition) const {
+    return iPosition >= 1 && iPosition <= GetViewpointCount() ? _viewpoints[iPosition - 1].viewpoint.Get() : nullptr;
+}
+
+const QORViewer::Place* QORViewer::FindPlace(const QORViewpoint* iViewpoint) const {
+    for (const Place& place : _viewpoints) {
+        if (place.viewpoint.Get() == iViewpoint) {
+            return &place;
+        }
+    }
+    return nullptr;
+}
+
+int QORViewer::GetPlacement(const QORViewpoint* iViewpoint) const {
+    const Place* const place = FindPlace(iViewpoint);
+    return place ? place->placement : kQORPlacementBehind;
+}
+
+QORViewpointEditor* QORViewer::GetViewpointEditor(const QORViewpoint* iViewpoint) const {
+    const Place* const place = FindPlace(iViewpoint);
+    return place ? place->editor.Get() : nullptr;
+}
+
+void QORViewer::GetGraphicSize(float& oWidth, float& oHeight) const {
+    oWidth = _width;
+    oHeight = _height;
+}
+
+void QORViewer::SetGraphicSize(float iWidth, float iHeight) {
+    _width = iWidth;
+    _height = iHeight;
+}
+
+void QORViewer::Draw() {
+    if (_peer) {
+        _peer->Draw();
+    }
+}
+
+void QORViewer::Redraw() {
+    if (_peer) {
+        _peer->Redraw();
+    }
+}
+
+void QORViewer::ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject) {
+    const QORVar<QORXSO> picked(QORVisManager::GetVisManager()->GetPSO(iViewpoint));
+    if (!picked) {
+        return;
+    }
+    const auto path = QORVar<QORPathElement>::Adopt(new QORPathElement(iObject));
+    picked->Empty();
+    picked->AddElement(path.Get());
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "dialog/QORDialog.h"
+#include "framework/QORVar.h"
+#include "visualization/QORIRedrawEvent.h"
+#include "visualization/QORViewerPeer.h"
+#include "visualization/QORViewpoint.h"
+#include "visualization/QORViewpointEditor.h"
+
+/// Style of a viewer: with the navigation by mouse (turn, move, zoom).
+inline constexpr int kQORViewerNavigated = 0x40000;
+
+/// Last argument of a navigation viewer: what the viewer has of its own.
+inline constexpr int kQORViewerPlain = 0;
+inline constexpr int kQORViewerScene = 8; ///< background, axes and light for a scene in space
+
+/// Where a further viewpoint stands.
+inline constexpr int kQORPlacementBehind = 0;
+inline constexpr int kQORPlacementInFront = 1;
+
+/// A view onto objects, kept in viewpoints. Answers QORIRedrawEvent.
+class QOR_EXPORT QORViewer : public QORDialog, private QORCounted<QORViewer> {
+public:
+    static constexpr std::string_view kCountName = "QORViewer";
+
+    ~QORViewer() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+
+    int GetStyle() const { return _style; }
+    int GetOptions() const { return _options; }
+
+    /// The viewpoint that a viewer of space has from the beginning; null for a viewer of a plane, and where the toolkit
+    /// can't show space.
+    QORViewpoint* GetMain3DViewpoint() const { return _main3DViewpoint; }
+
+    /// Takes a viewpoint over, the caller's reference with it. Negative for null and for one that a viewer has; the
+    /// reference is the caller's then.
+    QORStatus AddViewpoint(QORViewpoint* iViewpoint, int iPlacement);
+
+    /// Takes an editor over for a viewpoint of this viewer, in place of the one that it had. Negative for null and for
+    /// a viewpoint that isn't here; the reference is the caller's then.
+    QORStatus SetViewpointEditor(QORViewpoint* iViewpoint, QORViewpointEditor* iEditor);
+
+    int GetViewpointCount() const { return static_cast<int>(_viewpoints.size()); }
+
+    /// The viewpoint at iPosition in the order in which they came, null outside 1 to the count; the placement of a
+    /// viewpoint, and its editor, null when it has none or isn't here.
+    QORViewpoint* GetViewpoint(int iPosition) const;
+    int GetPlacement(const QORViewpoint* iViewpoint) const;
+    QORViewpointEditor* GetViewpointEditor(const QORViewpoint* iViewpoint) const;
+
+    /// Width and height of the graphic area in pixels: those of the construction until a peer says otherwise.
+    void GetGraphicSize(float& oWidth, float& oHeight) const;
+    void SetGraphicSize(float iWidth, float iHeight);
+
+    /// Draws what has changed, or everything anew; nothing to do without a peer.
+    void Draw();
+    void Redraw();
+
+    /// A person has picked an object in a viewpoint, or nothing (null): it becomes the content of the PSO that is tied
+    /// to the viewpoint.
+    void ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject);
+
+    /// The toolkit's side, null where there is none.
+    QORViewerPeer* GetPeer() const { return _peer.get(); }
+
+    /// Toolkit for all viewers that are made from now on; null for none. Stays the caller's, who keeps it long enough.
+    static void SetToolkit(QORViewerToolkit* iToolkit);
+
+protected:
+    QORViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth, int iHeight, int iOptions);
+
+    /// To be called at the end of the constructor of each kind of viewer: false when a toolkit is there and can't show
+    /// the viewer.
+    bool MakePeer();
+    void MakeMain3DViewpoint();
+
+private:
+    struct Place {
+        QORVar<QORViewpoint> viewpoint;
+        int placement;
+        QORVar<QORViewpointEditor> editor;
+    };
+
+    const Place* FindPlace(const QORViewpoint* iViewpoint) const;
+
+    int _style;
+    int _options;
+    float _width;
+    float _height;
+    std::vector<Place> _viewpoints;
+    QORViewpoint* _main3DViewpoint = nullptr;
+    std::unique_ptr<QORViewerPeer> _peer;
+    QORIRedrawEventTie<QORViewer> _redrawEvent{this};
+};

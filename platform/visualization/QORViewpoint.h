@@ -1,0 +1,28 @@
+#pragma once
+
+#include "framework/QORBaseUnknown.h"
+#include "framework/QORObjectCounts.h"
+
+class QORViewer;
+
+/// One way of looking at something in a viewer, which keeps it. What is shown in it knows the visualization manager.
+class QOR_EXPORT QORViewpoint : public QORBaseUnknown, private QORCounted<QORViewpoint> {
+public:
+    static constexpr std::string_view kCountName = "QORViewpoint";
+
+    ~QORViewpoint() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+
+    /// The viewer that keeps this viewpoint; null as long as none has taken it, and when that has ended.
+    QORViewer* GetViewer() const { return _viewer; }
+
+protected:
+    QORViewpoint() = default;
+
+private:
+    friend class QORViewer;
+
+    QORViewer* _viewer = nullptr;
+};

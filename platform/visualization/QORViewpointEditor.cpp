@@ -1,0 +1,3 @@
+#include "visualization/QORViewpointEditor.h"
+
+QORViewpointEditor::~QORViewpointEditor() = default;
