@@ -13,6 +13,4 @@ function(vxm_own_code target)
             -Wconversion
             -Wno-sign-conversion
             -Werror)
-  # Without unique symbols a library can really leave the process on dlclose.
-  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 endfunction()
