@@ -1,0 +1,8 @@
+#include "navigation/QORGraphViewer.h"
+
+#include "navigation/QORNavigBox.h"
+
+void QORGraphViewer::setAnchoredViewpoint(int iAnchored) {
+    _anchored = iAnchored != 0;
+    _box.SettingsChanged();
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "collections/QORListValQORBaseUnknown_var.h"
+#include "dialog/QORWatch.h"
+#include "navigation/QORNavigNode.h"
+
+#include <vector>
+
+class QORNavigBox;
+
+/// A place in a tree: the node of one tree object, with what is below it as far as it was opened. The box makes and
+/// keeps instances; who holds one longer finds it without a box, a parent and children.
+class QOR_EXPORT QORNavigInstance : public QORBaseUnknown, private QORCounted<QORNavigInstance> {
+public:
+    static constexpr std::string_view kCountName = "QORNavigInstance";
+
+    ~QORNavigInstance() override;
+
+    /// The box that the instance is in; null when it has left the tree or the tree has ended.
+    QORNavigBox* GetBox() const { return _box.Get(); }
+
+    /// The instance above, null for a root and as long as the instance is being made.
+    QORNavigInstance* GetParent() const { return _parent; }
+
+    /// Number of levels above this one, 0 for a root.
+    int GetDepth() const { return _depth; }
+
+    /// Position among its siblings, from 1; 0 for what isn't in the tree yet, or no longer.
+    int GetPosition() const { return _position; }
+
+    /// What was made below; null outside 1 to the count. Nothing before the instance is opened for the first time.
+    int GetChildCount() const { return static_cast<int>(_children.size()); }
+    QORNavigInstance* GetChild(int iPosition) const;
+
+    /// The node, never null, and the implementation of its tree object.
+    QORNavigNode* GetNode() const { return _node.Get(); }
+    QORBaseUnknown* GetTreeObject() const { return _node->GetTreeObject(); }
+
+    /// Opens the node: at the first time the tree object is asked for its children and a node is made for each, so the
+    /// cost grows with their number. Opening an open one changes nothing. Negative when the depth of the controller
+    /// doesn't allow it, and for what is in no tree. What a tree object raises passes through, with nothing changed.
+    QORStatus Expand();
+
+    /// Closes the node; what was made below is kept.
+    void Collapse();
+
+    bool IsExpanded() const { return _expanded; }
+
+    /// Whether opening may show something: true until a tree object has said that it has no children.
+    bool MayExpand() const;
+
+    /// Selects the node, in place of others where the controller allows one only, or takes it out of the selection.
+    void Select(bool iOn);
+    bool IsSelected() const;
+
+    void SetMarked(bool iOn);
+    bool IsMarked() const { return _marked; }
+
+    /// Reads the label anew and lets the extension of the node's type give the node its looks.
+    void Update();
+
+    /// Text to show while the pointer rests on the node: what the extension says, the label without one.
+    QORUnicodeString GetShortHelp();
+
+    /// Takes the instance out of the tree, with all that is below it.
+    void Remove();
+
+private:
+    friend class QORNavigBox;
+    friend class QORNavigNode;
+    using Instances = std::vector<QORVar<QORNavigInstance>>;
+
+    QORNavigInstance(QORNavigBox& iBox, int iDepth, const QORBaseUnknown_var& iTreeObject);
+
+    void Fill();
+    void PlaceBelow(QORNavigInstance* iParent, int iPosition);
+    void NodeChanged();
+    static void TakeOut(Instances& ioSiblings, int iPosition);
+
+    QORWatch<QORNavigBox> _box;
+    QORNavigInstance* _parent = nullptr;
+    Instances _children;
+    QORVar<QORNavigNode> _node;
+    int _depth;
+    int _position = 0;
+    bool _filled = false;
+    bool _expanded = false;
+    bool _marked = false;
+};
