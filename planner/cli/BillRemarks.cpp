@@ -1,0 +1,197 @@
+// The bill is gathered from the end of the flow backwards along its links. A step that is not reached that way adds
+// nothing, whatever it lists; of a step that is reached, its place and the sort of its lists decide.
+
+#include "planner/cli/BillRemarks.h"
+
+#include "planner/file/JsonText.h"
+
+#include "generation/VXMBomGenerator.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace planner {
+
+namespace {
+
+constexpr std::size_t kNamed = 3;
+
+template <class List>
+void push(const List& list, std::vector<const ModelObject*>& open) {
+    open.insert(open.end(), list.entries().rbegin(), list.entries().rend());
+}
+
+/// Puts what is nested in an object on the stack, the first one on top. A behaviour stands for its resource.
+void pushNested(const ModelObject& object, std::vector<const ModelObject*>& open) {
+    if (object.sort() == Sort::Activity) {
+        push(static_cast<const Activity&>(object).children, open);
+    } else if (object.sort() == Sort::Resource) {
+        const auto& resource = static_cast<const Resource&>(object);
+        push(resource.children, open);
+        if (resource.behaviour()) {
+            push(resource.behaviour()->activities, open);
+        }
+    }
+}
+
+bool isStep(const ModelObject& object) {
+    return object.sort() == Sort::Resource ||
+           (object.sort() == Sort::Activity && static_cast<const Activity&>(object).isStep());
+}
+
+/// The objects from which links lead to the end of the flow.
+std::unordered_set<const QORBaseUnknown*> reachedBy(VXMBomGenerator& generator, const ModelObject& root) {
+    std::unordered_set<const QORBaseUnknown*> objects;
+    std::unordered_set<const VXMFabFlowNode*> met;
+    std::vector<VXMFabFlowNode*> open;
+    const auto visit = [&](VXMFabFlowNode* node) {
+        if (node && met.insert(node).second) {
+            objects.insert(node->GetActivity().Impl());
+            open.push_back(node);
+        }
+    };
+    const QORBaseUnknown_var handle(const_cast<ModelObject*>(&root));
+    visit(generator.GetLastNodeInFlow(generator.CheckUse(handle)));
+    while (!open.empty()) {
+        VXMFabFlowNode* const node = open.back();
+        open.pop_back();
+        for (int i = 1; i <= node->GetNumberOfPredecessors(); ++i) {
+            visit(node->GetPredecessor(i));
+        }
+    }
+    return objects;
+}
+
+/// What the lists of some steps have to offer to a bill.
+struct Offer {
+    bool anything = false;      ///< any item is listed
+    bool brings = false;        ///< an item comes in or is put out where that counts
+    bool shutInStation = false; ///< the same, but inside a station and not first assigned by a loading step
+    bool fasteners = false;     ///< a fastener is listed
+};
+
+/// Which activities stand inside a station. Each answer is kept, so that asking for all of them costs no more than one
+/// look at each, however deep they are nested.
+class StationMemo {
+public:
+    bool isInStation(const Activity& activity) {
+        std::vector<const Activity*> unknown;
+        const Activity* at = &activity;
+        while (at && !known_.contains(at)) {
+            unknown.push_back(at);
+            at = at->parent();
+        }
+        bool inside = at && (known_[at] || at->kind() == ActivityKind::Station);
+        for (auto each = unknown.rbegin(); each != unknown.rend(); ++each) {
+            known_[*each] = inside;
+            inside = inside || (*each)->kind() == ActivityKind::Station;
+        }
+        return known_[&activity];
+    }
+
+private:
+    std::unordered_map<const Activity*, bool> known_;
+};
+
+bool holdsFastener(const ObjectList& list) {
+    return std::any_of(list.begin(), list.end(),
+                       [](const ModelObject* object) { return dynamic_cast<const Fastener*>(object) != nullptr; });
+}
+
+void addOffer(const Activity& activity, StationMemo& stations, Offer& offer) {
+    for (const ObjectList* list : {&activity.firstAssigned, &activity.assigned, &activity.removed, &activity.items}) {
+        offer.anything = offer.anything || !list->empty();
+        offer.fasteners = offer.fasteners || holdsFastener(*list);
+    }
+    offer.anything = offer.anything || !activity.outputs.empty();
+    if (activity.firstAssigned.empty() && activity.outputs.empty()) {
+        return;
+    }
+    const bool loads = activity.kind() == ActivityKind::Loading && !activity.firstAssigned.empty();
+    const bool counts = loads || !stations.isInStation(activity);
+    offer.brings = offer.brings || counts;
+    offer.shutInStation = offer.shutInStation || !counts;
+}
+
+Offer offerOf(const std::vector<const ModelObject*>& steps) {
+    Offer offer;
+    StationMemo stations;
+    for (const ModelObject* step : steps) {
+        if (step->sort() == Sort::Activity) {
+            addOffer(static_cast<const Activity&>(*step), stations, offer);
+        } else if (const Behaviour* const behaviour = static_cast<const Resource*>(step)->behaviour()) {
+            const bool lists = !behaviour->assigned.empty() || !behaviour->outputs.empty();
+            offer.anything = offer.anything || lists;
+            offer.brings = offer.brings || lists;
+        }
+    }
+    return offer;
+}
+
+const char* reasonFor(const Offer& offer) {
+    if (offer.brings) {
+        return "whatever comes in is taken out again";
+    }
+    if (offer.shutInStation) {
+        return "inside a station only what loading steps assign first counts";
+    }
+    return offer.fasteners ? "its steps bring in no product, and no fastener that they list is shown"
+                           : "its steps only work on items or remove them, and none brings one in";
+}
+
+/// The first few by name, and how many more there are.
+std::string namesOf(const std::vector<const ModelObject*>& steps) {
+    std::string names;
+    for (std::size_t i = 0; i < std::min(steps.size(), kNamed); ++i) {
+        names += (i == 0 ? "" : ", ") + inQuotes(steps[i]->name());
+    }
+    return steps.size() <= kNamed ? names : names + " and " + std::to_string(steps.size() - kNamed) + " more";
+}
+
+} // namespace
+
+std::vector<const ModelObject*> stepsFrom(const ModelObject& root) {
+    std::vector<const ModelObject*> steps;
+    std::vector<const ModelObject*> open{&root};
+    while (!open.empty()) {
+        const ModelObject* const object = open.back();
+        open.pop_back();
+        if (isStep(*object)) {
+            steps.push_back(object);
+        }
+        pushNested(*object, open);
+    }
+    return steps;
+}
+
+std::size_t countActivities(const std::vector<const ModelObject*>& steps) {
+    return static_cast<std::size_t>(std::count_if(
+        steps.begin(), steps.end(), [](const ModelObject* step) { return step->sort() == Sort::Activity; }));
+}
+
+std::optional<std::string> remarkOn(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps,
+                                    bool billIsEmpty) {
+    const auto reached = reachedBy(generator, *steps.front());
+    std::vector<const ModelObject*> lost;
+    std::copy_if(steps.begin() + 1, steps.end(), std::back_inserter(lost),
+                 [&](const ModelObject* step) { return !reached.contains(step); });
+    const std::string count = std::to_string(lost.size()) + " of " + std::to_string(steps.size() - 1) + " steps ";
+    const std::string lie = lost.size() == 1 ? "lies" : "lie";
+    const std::string path = " on no path of links to the end of the plan";
+    if (!lost.empty() && billIsEmpty) {
+        return "the bill is empty: " + count + lie + path + ": " + namesOf(lost);
+    }
+    if (!lost.empty()) {
+        return count + lie + path + " and " + (lost.size() == 1 ? "adds" : "add") +
+               " nothing to the bill: " + namesOf(lost);
+    }
+    if (billIsEmpty) {
+        if (const Offer offer = offerOf(steps); offer.anything) {
+            return std::string("the bill is empty: ") + reasonFor(offer);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace planner

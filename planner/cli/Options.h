@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace planner {
+
+/// The format in which a bill is printed.
+enum class Format { Tree, Xml, Json, Csv };
+
+/// What `planner bom` is asked to do.
+struct BomOptions {
+    std::string plan;
+    std::optional<std::string> root;
+    Format format = Format::Tree;
+    bool legacy = false;
+    std::string fasteners = "all";
+    bool unassignedFasteners = false;
+    std::optional<std::string> trace;
+};
+
+/// What `planner fmt` is asked to do.
+struct FmtOptions {
+    std::string plan;
+    std::optional<std::string> output;
+};
+
+/// A command line: one of the commands, or a text to print, or what is wrong with it.
+struct CommandLine {
+    std::optional<BomOptions> bom;
+    std::optional<FmtOptions> fmt;
+    std::optional<std::string> print;
+    std::string error;
+};
+
+CommandLine parseCommandLine(int argc, const char* const* argv);
+
+} // namespace planner

@@ -1,0 +1,68 @@
+// The planner on the command line.
+
+#include "planner/cli/Commands.h"
+#include "planner/cli/Options.h"
+#include "planner/cli/Status.h"
+
+#include "planner/file/TextSink.h"
+
+#include "framework/QORObjectCounts.h"
+
+#include <cerrno>
+#include <exception>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+using planner::Status;
+
+/// Gives each standard descriptor that was closed a file that refuses what it is there for. Otherwise the next file to
+/// be opened would take its number, and the bill would go into it.
+void fillStandardDescriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(descriptor, F_GETFD) < 0 && errno == EBADF) {
+            ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
+Status run(const planner::CommandLine& line) {
+    if (line.bom) {
+        return runBom(*line.bom);
+    }
+    if (line.fmt) {
+        return runFmt(*line.fmt);
+    }
+    if (line.print) {
+        planner::TextSink sink(STDOUT_FILENO);
+        sink.put(*line.print);
+        return planner::endOfOutput(sink.finish());
+    }
+    planner::complain(line.error);
+    return Status::Bad;
+}
+
+/// In debug builds every object must be gone at the end of a run.
+Status checkNothingIsLeft(Status status) {
+#ifndef NDEBUG
+    for (const auto& [name, living] : QORLivingObjects()) {
+        planner::complain(std::to_string(living) + " objects of " + name + " are left over");
+        status = Status::Broken;
+    }
+#endif
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    fillStandardDescriptors();
+    try {
+        const Status status = run(planner::parseCommandLine(argc, argv));
+        return static_cast<int>(checkNothingIsLeft(status));
+    } catch (const std::exception& error) {
+        planner::complain(error.what());
+        return static_cast<int>(Status::Broken);
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace planner {
+
+/// A new content for a file, which appears under its name in one step and only when it is complete: it is written to
+/// another file of the same folder, which is then renamed. The permissions of the old file stay; a symbolic link goes
+/// on pointing to the file. What is no regular file, a device say, is written to directly.
+class FileReplacement {
+public:
+    explicit FileReplacement(const std::string& path);
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    /// Why nothing can be written, if so.
+    std::optional<std::string> error() const;
+
+    /// Where to write the content; negative when there is an error.
+    int descriptor() const { return descriptor_; }
+
+    /// Puts the content in place, unless writing it failed with the error number given. Gives what went wrong.
+    std::optional<std::string> commit(int writeError);
+
+private:
+    void openTemporary(unsigned permissions);
+    void close();
+
+    std::string path_;
+    std::string temporary_; // empty when the file is written to directly
+    int descriptor_ = -1;
+    int error_ = 0;
+};
+
+} // namespace planner

@@ -1,0 +1,117 @@
+#include "planner/file/ItemDraft.h"
+
+#include "planner/file/JsonText.h"
+
+#include <algorithm>
+
+namespace planner {
+
+void giveId(Plan& plan, ModelObject& object, std::string id, std::size_t offset, Faults& faults) {
+    if (const ModelObject* const taken = plan.find(id)) {
+        faults.addValue(offset, "the id " + inQuotes(id) + " is that of " + sortText(taken->sort()) +
+                                    " already; expected one of its own");
+    } else {
+        plan.setId(object, std::move(id));
+    }
+}
+
+namespace {
+
+/// Whether items of that kind have the key; keys that all kinds have aren't asked for.
+bool hasKey(ItemKind kind, Key key) {
+    const bool isProduct = kind == ItemKind::Product || kind == ItemKind::Assembly;
+    switch (key) {
+    case Key::Children:
+        return isProduct;
+    case Key::Holds:
+        return kind == ItemKind::Assembly;
+    case Key::Type:
+    case Key::Assigned:
+        return kind == ItemKind::Fastener;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+void ItemDraft::text(Key key, std::string value, std::size_t offset) {
+    if (key == Key::Id) {
+        id_ = std::move(value);
+        idOffset_ = offset;
+    } else if (key == Key::Kind) {
+        kind_ = std::move(value);
+        kindOffset_ = offset;
+    } else {
+        (key == Key::Name ? name_ : type_) = std::move(value);
+    }
+}
+
+void ItemDraft::ids(Key key, const std::vector<std::size_t>& offsets) {
+    (key == Key::Children ? children_ : holds_) = offsets;
+}
+
+std::optional<ItemKind> ItemDraft::kind(Faults& faults) const {
+    if (!kind_) {
+        return std::nullopt; // missing, or no text: reported where it was read
+    }
+    const auto word = std::find(kItemKinds.begin(), kItemKinds.end(), *kind_);
+    if (word == kItemKinds.end()) {
+        faults.addValue(kindOffset_, "unknown kind of item " + inQuotes(*kind_) +
+                                         R"(; expected "product", "assembly", "fastener" or "item")");
+        return std::nullopt;
+    }
+    return static_cast<ItemKind>(word - kItemKinds.begin());
+}
+
+void ItemDraft::checkKeys(ItemKind kind, Faults& faults) const {
+    for (const KeyPlace& place : keys_) {
+        if (!hasKey(kind, place.key)) {
+            faults.addValue(place.offset, '"' + std::string(keyName(Value::Item, place.key)) +
+                                              "\" on an item of kind \"" + std::string(kindText(kind)) +
+                                              "\", which has no such key");
+        }
+    }
+}
+
+void ItemDraft::make(Plan& plan, References& references, Faults& faults) {
+    const std::optional<ItemKind> known = kind(faults);
+    Item& item = plan.newItem(known.value_or(ItemKind::Item));
+    plan.items.add(&item);
+    if (known) {
+        checkKeys(*known, faults);
+    } else {
+        references.doubt(item);
+    }
+    if (id_) {
+        giveId(plan, item, std::move(*id_), idOffset_, faults);
+    }
+    fill(item, references);
+}
+
+void ItemDraft::fill(Item& item, References& references) {
+    if (name_) {
+        item.setName(std::move(*name_));
+    }
+    if (shape_) {
+        item.setShape(std::move(*shape_));
+    }
+    if (place_) {
+        item.setPlace(std::move(*place_));
+    }
+    if (!notes_.empty()) {
+        item.setNotes(std::move(notes_));
+    }
+    if (auto* const product = dynamic_cast<Product*>(&item); product && children_) {
+        references.add(product->children, Wanted::ProductOccurrence, "children", *children_);
+    }
+    if (auto* const assembly = dynamic_cast<Assembly*>(&item); assembly && holds_) {
+        references.add(assembly->holds, Wanted::AnyItem, "holds", *holds_);
+    }
+    if (auto* const fastener = dynamic_cast<Fastener*>(&item)) {
+        fastener->type = std::move(type_);
+        fastener->assigned = assigned_;
+    }
+}
+
+} // namespace planner

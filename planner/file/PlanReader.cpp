@@ -1,0 +1,42 @@
+#include "planner/file/PlanReader.h"
+
+#include "planner/file/PlanHandler.h"
+#include "planner/file/SourceText.h"
+
+#include <filesystem>
+
+namespace planner {
+
+ReadResult readPlan(const std::string& path) {
+    const std::string name = sourceName(path);
+    std::string text;
+    if (const auto error = readSource(path, text)) {
+        return {nullptr, {name + ": " + *error}};
+    }
+    return parsePlan(text, name, path == kStandardInput ? name : std::filesystem::path(path).filename().string());
+}
+
+ReadResult parsePlan(std::string_view text, const std::string& name, const std::string& title) {
+    if (text.empty()) {
+        return {nullptr, {name + ": is empty; expected a JSON object with the plan"}};
+    }
+    Faults faults;
+    auto plan = std::make_unique<Plan>();
+    plan->fallbackTitle = title;
+    if (const auto fault = findEncodingFault(text)) {
+        faults.addSyntax(fault->offset, fault->message);
+    } else {
+        PlanBuilder builder(*plan, faults);
+        TokenPlaces places(text, signatureLength(text));
+        PlanHandler handler(places, builder, faults);
+        if (nlohmann::json::sax_parse(places.begin(), places.end(), &handler)) {
+            builder.finish(text);
+        }
+    }
+    if (!faults.empty()) {
+        return {nullptr, faults.lines(name, text)};
+    }
+    return {std::move(plan), {}};
+}
+
+} // namespace planner

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "planner/model/Plan.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace planner {
+
+/// A plan, or why there is none: a line for each fault with file, place, what is wrong and what was expected.
+struct ReadResult {
+    std::unique_ptr<Plan> plan; ///< null when there are errors
+    std::vector<std::string> errors;
+};
+
+/// Reads the plan file of that path, "-" being standard input.
+ReadResult readPlan(const std::string& path);
+
+/// Reads a plan from its text. The name goes in front of errors; the title is what the plan is called when it doesn't
+/// say so itself.
+ReadResult parsePlan(std::string_view text, const std::string& name, const std::string& title);
+
+} // namespace planner
