@@ -1,0 +1,81 @@
+#include "navigation/VXMBomNavObject.h"
+
+#include "framework/QORDictionary.h"
+#include "generation/StrX.h"
+#include "navigation/VXMBomNavObjectTies.h"
+#include "process/VXMProcessBomGenerator.h"
+#include "visualization/QORPathElement.h"
+
+#include <memory>
+
+namespace {
+
+constexpr const char* kClass = "VXMBomNavObject";
+
+/// The class can't be created by name.
+QORBaseUnknown* CreateItself() {
+    return nullptr;
+}
+
+const QORMetaClass* const registered = VXMBomNavObject::ClassMeta();
+const QORFillDictionary navigateObject(kClass, IID_QORINavigateObject, CreateTIEQORINavigateObjectVXMBomNavObject);
+const QORFillDictionary navigateObjectPPR(kClass, IID_QORINavigateObjectPPR,
+                                          CreateTIEQORINavigateObjectPPRVXMBomNavObject);
+const QORFillDictionary navigateObjectModify(kClass, IID_QORINavigateObjectModify,
+                                             CreateTIEQORINavigateObjectModifyVXMBomNavObject);
+
+} // namespace
+
+VXMBomNavObject::VXMBomNavObject(const QORISPPActivity_var& iActivity) {
+    VXMProcessBomGenerator generator(iActivity);
+    const DOM_Document document = generator.GetBom(0);
+    _element = document.getDocumentElement();
+}
+
+VXMBomNavObject::VXMBomNavObject(DOM_Element& iElement) : _element(iElement) {}
+
+VXMBomNavObject::~VXMBomNavObject() = default;
+
+QORMetaClass* VXMBomNavObject::ClassMeta() {
+    static QORMetaClass meta(kClass, Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "VXMBomInfrastructure",
+                             CreateItself);
+    return &meta;
+}
+
+QORMetaClass* VXMBomNavObject::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QORListValQORUnicodeString* VXMBomNavObject::GetIdentificators() {
+    static const DOMString documentTag("BOM");
+    static const DOMString displayName("DisplayName");
+    auto labels = std::make_unique<QORListValQORUnicodeString>();
+    if (_element.getNodeName().equals(documentTag)) {
+        labels->Append("Bom");
+    } else {
+        const StrX name(_element.getAttribute(displayName));
+        labels->Append(QORUnicodeString(name.localForm()));
+    }
+    return labels.release();
+}
+
+QORListValQORBaseUnknown_var* VXMBomNavObject::GetChildren() {
+    auto objects = std::make_unique<QORListValQORBaseUnknown_var>();
+    const DOM_NodeList nodes = _element.getChildNodes();
+    const int length = nodes.getLength();
+    for (int index = 0; index < length; ++index) {
+        const DOM_Node node = nodes.item(index);
+        if (node.getNodeType() == DOM_Node::ELEMENT_NODE) {
+            DOM_Element element(node);
+            objects->Append(QORBaseUnknown_var::Adopt(new VXMBomNavObject(element)));
+        }
+    }
+    return objects.release();
+}
+
+QORPathElement* VXMBomNavObject::DecodeSentCommand(unsigned char& oFlag) {
+    auto* const path = new QORPathElement(nullptr);
+    path->AddChildElement(GetImpl(0), 0);
+    oFlag = 0;
+    return path;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "navigation/QORINavigElement.h"
+#include "navigation/QORINavigModify.h"
+#include "navigation/VXMPFNavigModifyMBOMObject.h"
+
+// The forwarders of VXMPFNavigModifyMBOMObject, and the factories that the dictionary knows them by.
+
+class TIEQORINavigModifyVXMPFNavigModifyMBOMObject final : public QORINavigModifyTie<VXMPFNavigModifyMBOMObject> {
+    using QORINavigModifyTie<VXMPFNavigModifyMBOMObject>::QORINavigModifyTie;
+};
+class TIEQORINavigElementVXMPFNavigModifyMBOMObject final : public QORINavigElementTie<VXMPFNavigModifyMBOMObject> {
+    using QORINavigElementTie<VXMPFNavigModifyMBOMObject>::QORINavigElementTie;
+};
+
+QORBaseUnknown* CreateTIEQORINavigModifyVXMPFNavigModifyMBOMObject(QORBaseUnknown* iImplementation);
+QORBaseUnknown* CreateTIEQORINavigElementVXMPFNavigModifyMBOMObject(QORBaseUnknown* iImplementation);
