@@ -44,10 +44,10 @@ private:
         std::string key;
 
         std::string segment() const {
-            if (list) {
-                return "/" + std::to_string(count - 1);
-            }
             std::string escaped = "/";
+            if (list) {
+                return escaped.append(std::to_string(count - 1));
+            }
             for (const char letter : key) {
                 escaped += letter == '~' ? "~0" : letter == '/' ? "~1" : std::string(1, letter);
             }
