@@ -6,12 +6,10 @@
 
 namespace planner {
 
-void giveId(Plan& plan, ModelObject& object, std::string id, std::size_t offset, Faults& faults) {
-    if (const ModelObject* const taken = plan.find(id)) {
-        faults.addValue(offset, "the id " + inQuotes(id) + " is that of " + sortText(taken->sort()) +
+void giveId(Plan& plan, ModelObject& object, const std::string& id, std::size_t offset, Faults& faults) {
+    if (!plan.setId(object, id)) {
+        faults.addValue(offset, "the id " + inQuotes(id) + " is that of " + sortText(plan.find(id)->sort()) +
                                     " already; expected one of its own");
-    } else {
-        plan.setId(object, std::move(id));
     }
 }
 
@@ -84,7 +82,7 @@ void ItemDraft::make(Plan& plan, References& references, Faults& faults) {
         references.doubt(item);
     }
     if (id_) {
-        giveId(plan, item, std::move(*id_), idOffset_, faults);
+        giveId(plan, item, *id_, idOffset_, faults);
     }
     fill(item, references);
 }

@@ -12,7 +12,7 @@
 namespace planner {
 
 /// Gives an object its id, or reports that another object of the plan has it.
-void giveId(Plan& plan, ModelObject& object, std::string id, std::size_t offset, Faults& faults);
+void giveId(Plan& plan, ModelObject& object, const std::string& id, std::size_t offset, Faults& faults);
 
 /// An item whose keys are still coming. Its kind says which class it is and which keys it may have, and can be the last
 /// of them, so the item is made at its end.

@@ -126,7 +126,7 @@ void PlanBuilder::text(const ValuePlace& place, std::string value) {
     } else if (place.object == Value::Shape) {
         shape_.text(place.key, std::move(value));
     } else if (place.key == Key::Id) {
-        giveId(plan_, *place.owner, std::move(value), place.offset, faults_);
+        giveId(plan_, *place.owner, value, place.offset, faults_);
     } else if (place.key == Key::Name) {
         place.owner->setName(std::move(value));
     } else if (place.key == Key::Type) {

@@ -55,17 +55,12 @@ void Plan::makeDefaultProcess() {
 }
 
 bool Plan::setId(ModelObject& object, std::string id) {
-    if (byId_.contains(id)) {
+    if (byId_.find(id)) {
         return false;
     }
     object.id_ = std::move(id);
-    byId_.emplace(object.id_, &object); // the key is a view of the object's own text, which stays
+    byId_.insert(object);
     return true;
-}
-
-ModelObject* Plan::find(std::string_view id) const {
-    const auto place = byId_.find(id);
-    return place == byId_.end() ? nullptr : place->second;
 }
 
 void Plan::addLink(FlowObject& from, FlowObject& to) {

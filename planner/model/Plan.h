@@ -1,12 +1,12 @@
 #pragma once
 
+#include "planner/model/IdIndex.h"
 #include "planner/model/Resource.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace planner {
@@ -59,7 +59,7 @@ public:
     bool setId(ModelObject& object, std::string id);
 
     /// The object of that id, or null.
-    ModelObject* find(std::string_view id) const;
+    ModelObject* find(std::string_view id) const { return byId_.find(id); }
 
     /// Appends a link at the end of the plan's list and of both views.
     void addLink(FlowObject& from, FlowObject& to);
@@ -74,7 +74,7 @@ private:
     T& keep(std::unique_ptr<T> object);
 
     std::vector<ModelObject*> objects_;
-    std::unordered_map<std::string_view, ModelObject*> byId_;
+    IdIndex byId_;
     OptionalList<Link> links_;
     Activity* process_ = nullptr;
     bool processIsDefault_ = false;

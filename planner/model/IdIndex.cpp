@@ -1,0 +1,55 @@
+#include "planner/model/IdIndex.h"
+
+#include "planner/model/ModelObject.h"
+
+#include <functional>
+
+namespace planner {
+
+namespace {
+
+std::size_t hashOf(std::string_view id) {
+    return std::hash<std::string_view>()(id);
+}
+
+} // namespace
+
+ModelObject* IdIndex::find(std::string_view id) const {
+    if (slots_.empty()) {
+        return nullptr;
+    }
+    const std::size_t mask = slots_.size() - 1;
+    const std::size_t hash = hashOf(id);
+    for (std::size_t at = hash & mask; slots_[at].object; at = (at + 1) & mask) {
+        if (slots_[at].hash == hash && slots_[at].object->id() == id) {
+            return slots_[at].object;
+        }
+    }
+    return nullptr;
+}
+
+void IdIndex::insert(ModelObject& object) {
+    constexpr std::size_t kSmallest = 16;
+    if (2 * (count_ + 1) > slots_.size()) {
+        std::vector<Slot> larger(slots_.empty() ? kSmallest : 2 * slots_.size());
+        for (const Slot& slot : slots_) {
+            if (slot.object) {
+                place(larger, slot);
+            }
+        }
+        slots_ = std::move(larger);
+    }
+    place(slots_, {hashOf(object.id()), &object});
+    ++count_;
+}
+
+void IdIndex::place(std::vector<Slot>& slots, Slot entry) {
+    const std::size_t mask = slots.size() - 1;
+    std::size_t at = entry.hash & mask;
+    while (slots[at].object) {
+        at = (at + 1) & mask;
+    }
+    slots[at] = entry;
+}
+
+} // namespace planner
