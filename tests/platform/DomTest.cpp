@@ -1,0 +1,136 @@
+#include "dom/DOM_Document.h"
+#include "dom/QORXMLParser.h"
+#include "dom/XMLString.h"
+#include "framework/QORObjectCounts.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+namespace {
+
+/// Made before the XML library's run-time, and so destroyed after everything else.
+DOM_Element outlivesEverything;
+
+std::string narrow(const DOMString& text) {
+    char* made = XMLString::transcode(text.rawBuffer());
+    std::string copy(made);
+    XMLString::release(&made);
+    EXPECT_EQ(made, nullptr);
+    return copy;
+}
+
+long livingDocuments() {
+    return QORLivingObjects()["DOM_Document"];
+}
+
+/// A document with the element "top" and those children below it.
+DOM_Element topWith(std::initializer_list<const char*> children) {
+    DOM_Document document = DOM_Document::createDocument();
+    DOM_Element top = document.createElement("top");
+    document.appendChild(top);
+    for (const char* child : children) {
+        top.appendChild(document.createElement(child));
+    }
+    return top;
+}
+
+TEST(DomText, ComesBackAsItWentIn) {
+    const char* const texts[] = {"", "plain", "Größe", "€ and 𝄞", "<&>\"'"};
+    for (const char* text : texts) {
+        EXPECT_EQ(narrow(DOMString(text)), text);
+    }
+    EXPECT_EQ(DOMString("𝄞").length(), 2) << "in 16-bit units";
+    EXPECT_TRUE(DOMString("a").equals(DOMString("a")));
+    EXPECT_FALSE(DOMString("a").equals(DOMString("A")));
+    EXPECT_EQ(DOMString(nullptr).length(), 0);
+    EXPECT_EQ(XMLString::transcode(nullptr), nullptr);
+}
+
+TEST(DomText, TakesBrokenUtf8AsReplacementCharacters) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"a\xFF"
+         "b",
+         "a\uFFFDb"},
+        {"\x80", "\uFFFD"},
+        {"cut \xE2\x82", "cut \uFFFD\uFFFD"},
+        {"long \xC0\xAF.", "long \uFFFD\uFFFD."},
+        {"half \xED\xA0\x80.", "half \uFFFD\uFFFD\uFFFD."},
+        {"far \xF4\x90\x80\x80.", "far \uFFFD\uFFFD\uFFFD\uFFFD."},
+        {"ü\xFFü", "ü\uFFFDü"},
+    };
+    for (const auto& [broken, repaired] : cases) {
+        EXPECT_EQ(narrow(DOMString(broken.c_str())), repaired);
+    }
+}
+
+TEST(DomText, HoldsMoreThanOneBlockOfTheTranscoder) {
+    std::string text;
+    for (int i = 0; i < 5000; ++i) {
+        text += "aü€𝄞";
+    }
+    EXPECT_EQ(narrow(DOMString(text.c_str())), text);
+    EXPECT_EQ(narrow(DOMString((text + "\xFF").c_str())), text + "\uFFFD");
+}
+
+TEST(DomDocument, IsATreeOfElementsWithAttributes) {
+    DOM_Element top = topWith({"a", "b", "c"});
+    top.setAttribute("name", "one");
+    top.setAttribute("name", "two");
+    EXPECT_EQ(narrow(top.getAttribute("name")), "two");
+    EXPECT_EQ(top.getAttribute("other").length(), 0);
+    std::string names;
+    const DOM_NodeList children = top.getChildNodes();
+    for (const int index : {0, 2, 1, 0}) {
+        names += narrow(children.item(index).getNodeName());
+    }
+    EXPECT_EQ(names, "acba");
+    EXPECT_EQ(children.getLength(), 3);
+    EXPECT_TRUE(children.item(3).isNull());
+    EXPECT_TRUE(children.item(-1).isNull());
+    EXPECT_EQ(top.getNodeType(), DOM_Node::ELEMENT_NODE);
+    EXPECT_EQ(children.item(1).getParentNode(), top);
+    EXPECT_TRUE(DOM_Element(top.getParentNode()).isNull()) << "the document itself is no element";
+}
+
+TEST(DomDocument, LivesAsLongAsAnyHandleOnIt) {
+    const long before = livingDocuments();
+    DOM_Node last = topWith({"a"}).getFirstChild();
+    EXPECT_EQ(livingDocuments(), before + 1);
+    EXPECT_EQ(narrow(last.getParentNode().getNodeName()), "top");
+    DOM_Node moved = std::move(last);
+    DOM_Node copy = moved;
+    moved = DOM_Node();
+    EXPECT_EQ(narrow(copy.getNodeName()), "a");
+    copy = DOM_Node();
+    EXPECT_EQ(livingDocuments(), before);
+}
+
+TEST(DomHandle, OfNothingGivesNothing) {
+    DOM_Document none;
+    DOM_Element element;
+    element.setAttribute("a", "b");
+    EXPECT_TRUE(none.createElement("a").isNull());
+    EXPECT_TRUE(none.getDocumentElement().isNull());
+    EXPECT_TRUE(DOM_Document::createDocument().getDocumentElement().isNull());
+    EXPECT_TRUE(element.appendChild(element).isNull());
+    EXPECT_EQ(element.getAttribute("a").length(), 0);
+    EXPECT_EQ(element.getChildNodes().getLength(), 0);
+    EXPECT_EQ(element.getNodeType(), 0);
+}
+
+TEST(DomHandleDeathTest, MayOutliveEverything) {
+    EXPECT_EXIT(
+        {
+            QORXMLParser::Initialize();
+            QORXMLParser::Initialize();
+            outlivesEverything = topWith({"a"});
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "^$");
+}
+
+} // namespace

@@ -1,0 +1,170 @@
+#pragma once
+
+#include "dialog/QORDialogObserver.h"
+#include "frame/QORFrmWindow.h"
+#include "framework/QORModelIdentificator.h"
+#include "navigation/QORNavigBox.h"
+#include "navigation/QORToolkit.h"
+#include "visualization/QORVisManager.h"
+
+#include <string>
+#include <vector>
+
+/// What happened to everything that a person would see, in its order, a line each.
+namespace recording {
+
+class Log {
+public:
+    void add(std::string line) { lines_.push_back(std::move(line)); }
+    const std::vector<std::string>& lines() const { return lines_; }
+
+    /// The lines since the last call, joined by " | ".
+    std::string take() {
+        std::string text;
+        for (const std::string& line : lines_) {
+            text += (text.empty() ? "" : " | ") + line;
+        }
+        lines_.clear();
+        return text;
+    }
+
+private:
+    std::vector<std::string> lines_;
+};
+
+inline std::string nameOf(const QORCommand* command) {
+    return command ? std::string(command->GetName()) : std::string("nobody");
+}
+
+inline std::string numberOf(QORBaseUnknown& object) {
+    return std::to_string(QORModelIdentificator(object.GetImpl(0)).GetIntId());
+}
+
+/// Writes the steps in the life of dialog objects: "made A in B", "attached B to A", "A calls back from B" ...
+class DialogSteps : public QORDialogObserver {
+public:
+    explicit DialogSteps(Log& log) : log_(log) {}
+
+    void Happened(QORDialogStep step, const QORCommand& object, const QORCommand* other) override {
+        log_.add(lineFor(step, nameOf(&object), other));
+    }
+
+private:
+    static std::string lineFor(QORDialogStep step, const std::string& name, const QORCommand* other) {
+        switch (step) {
+        case QORDialogStep::Made:
+            return "made " + name + (other ? " in " + nameOf(other) : "");
+        case QORDialogStep::Attached:
+            return "attached " + nameOf(other) + " to " + name;
+        case QORDialogStep::Detached:
+            return "detached " + nameOf(other) + " from " + name;
+        case QORDialogStep::CallbackRegistered:
+            return name + " calls back from " + nameOf(other);
+        case QORDialogStep::CallbackRemoved:
+            return name + " no longer calls back from " + nameOf(other);
+        case QORDialogStep::DestructionRequested:
+            return "end of " + name + " requested";
+        default:
+            return "ended " + name;
+        }
+    }
+
+    Log& log_;
+};
+
+class WindowPeer : public QORFrmWindowPeer {
+public:
+    WindowPeer(Log& log, QORFrmWindow& window) : log_(log), window_(window) {}
+    ~WindowPeer() override { log_.add("window gone"); }
+
+    void TitleChanged() override { log_.add("title " + std::string(window_.GetBaseName())); }
+    void LayoutChanged() override { log_.add("layout"); }
+    void SelectableViewerChanged() override { log_.add("selectable " + nameOf(window_.GetSelectableViewer())); }
+
+private:
+    Log& log_;
+    QORFrmWindow& window_;
+};
+
+class ViewerPeer : public QORViewerPeer {
+public:
+    ViewerPeer(Log& log, QORViewer& viewer) : log_(log), viewer_(viewer) {}
+    ~ViewerPeer() override { log_.add("viewer gone"); }
+
+    void ViewpointAdded(QORViewpoint& viewpoint) override {
+        log_.add(std::string(viewpoint.IsA()) + " added at " + std::to_string(viewer_.GetPlacement(&viewpoint)));
+    }
+    void EditorChanged(QORViewpoint& viewpoint) override {
+        log_.add("editor " + std::string(viewer_.GetViewpointEditor(&viewpoint)->GetName()));
+    }
+    void ObjectShown(QORViewpoint&, QORBaseUnknown& object) override { log_.add("shown " + numberOf(object)); }
+    void ObjectHidden(QORViewpoint&, QORBaseUnknown& object) override { log_.add("hidden " + numberOf(object)); }
+    void SelectionChanged(QORViewpoint& viewpoint) override {
+        const QORVisManager& manager = *QORVisManager::GetVisManager();
+        log_.add("sets " + sizeOf(manager.GetHSO(viewpoint)) + " " + sizeOf(manager.GetPSO(viewpoint)));
+    }
+    void Redraw() override { log_.add("redraw"); }
+    void Draw() override { log_.add("draw"); }
+
+private:
+    static std::string sizeOf(const QORXSO* set) { return set ? std::to_string(set->GetSize()) : "none"; }
+
+    Log& log_;
+    QORViewer& viewer_;
+};
+
+class BoxPeer : public QORNavigBoxPeer {
+public:
+    BoxPeer(Log& log, QORNavigBox& box) : log_(log), box_(box) {}
+    ~BoxPeer() override { log_.add("box gone"); }
+
+    void RootsChanged() override { log_.add("roots " + std::to_string(box_.GetRootCount())); }
+    void ChildrenChanged(QORNavigInstance& instance) override {
+        log_.add((instance.IsExpanded() ? "open " : "closed ") + labelOf(instance) + " " +
+                 std::to_string(instance.GetChildCount()));
+    }
+    void NodeChanged(QORNavigInstance& instance) override {
+        log_.add("node " + labelOf(instance) + " " + std::string(instance.GetNode()->GetIconName()) +
+                 (instance.IsMarked() ? "!" : ""));
+    }
+    void SelectionChanged() override { log_.add("selected " + std::to_string(box_.GetSelection().size())); }
+    void SettingsChanged() override {
+        const QORNavigController* const controller = box_.GetController();
+        const QORGraphViewer* const graph = box_.GetGraphViewer();
+        log_.add("settings " + (controller ? std::to_string(controller->GetDepth()) : "none") +
+                 (graph && graph->isAnchoredViewpoint() ? " anchored" : ""));
+    }
+
+private:
+    static std::string labelOf(const QORNavigInstance& instance) { return std::string(instance.GetNode()->GetLabel()); }
+
+    Log& log_;
+    QORNavigBox& box_;
+};
+
+/// The toolkit of everything that is made while it exists. Can refuse to show windows, or viewers.
+class Toolkit : public QORToolkit {
+public:
+    explicit Toolkit(Log& log) : log_(log) { QORSetToolkit(this); }
+    ~Toolkit() override { QORSetToolkit(nullptr); }
+
+    void refuseWindows() { windows_ = false; }
+    void refuseViewers() { viewers_ = false; }
+
+    std::unique_ptr<QORFrmWindowPeer> MakePeer(QORFrmWindow& window) override {
+        return windows_ ? std::make_unique<WindowPeer>(log_, window) : nullptr;
+    }
+    std::unique_ptr<QORViewerPeer> MakePeer(QORViewer& viewer) override {
+        return viewers_ ? std::make_unique<ViewerPeer>(log_, viewer) : nullptr;
+    }
+    std::unique_ptr<QORNavigBoxPeer> MakePeer(QORNavigBox& box) override {
+        return std::make_unique<BoxPeer>(log_, box);
+    }
+
+private:
+    Log& log_;
+    bool windows_ = true;
+    bool viewers_ = true;
+};
+
+} // namespace recording
