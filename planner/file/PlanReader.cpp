@@ -13,7 +13,12 @@ ReadResult readPlan(const std::string& path) {
     if (const auto error = readSource(path, text)) {
         return {nullptr, {name + ": " + *error}};
     }
-    return parsePlan(text, name, path == kStandardInput ? name : std::filesystem::path(path).filename().string());
+    const std::filesystem::path file = path == kStandardInput ? name : path;
+    ReadResult result = parsePlan(text, name, file.filename().string());
+    if (result.plan) {
+        result.plan->folder = file.parent_path().string();
+    }
+    return result;
 }
 
 ReadResult parsePlan(std::string_view text, const std::string& name, const std::string& title) {

@@ -1,6 +1,10 @@
 #include "planner/model/Activity.h"
 
 #include "planner/model/OutputRecord.h"
+#include "planner/model/PlanPublisher.h"
+
+#include "model/QORISPPActivityModificationEvents.h"
+#include "model/QORISPPActivityRoot.h"
 
 #include <array>
 #include <unordered_set>
@@ -26,6 +30,35 @@ const char* firstType(ActivityKind kind) {
 
 } // namespace
 
+/// What the root has more than other activities.
+class Activity::Root {
+public:
+    explicit Root(Activity* activity) : root(activity), events(activity) {}
+
+    QORISPPActivityRootTie<Activity> root;
+    QORISPPActivityModificationEventsTie<Activity> events;
+    QORVar<PlanPublisher> publisher = QORVar<PlanPublisher>::Adopt(new PlanPublisher());
+};
+
+Activity::Activity() : FlowObject(Sort::Activity) {}
+
+Activity::~Activity() = default;
+
+Activity* Activity::parent() const {
+    const bool isBelow = container() && container()->sort() == Sort::Activity;
+    return isBelow ? static_cast<Activity*>(container()) : nullptr;
+}
+
+void Activity::becomeRoot() {
+    if (!root_) {
+        root_ = std::make_unique<Root>(this);
+    }
+}
+
+QOREventSubscriber* Activity::GetEventPublisher() const {
+    return root_ ? root_->publisher.Get() : nullptr;
+}
+
 void Activity::setKind(ActivityKind kind) {
     kind_ = kind;
     hasOwnKind_ = true;
@@ -39,6 +72,9 @@ QORStatus Activity::QueryInterface(const QORInterfaceID& iInterface, void** oInt
     if (isStep() && QORAnswer(iInterface, oInterface, step_) >= 0) {
         return QOR_OK;
     }
+    if (root_ && QORAnswer(iInterface, oInterface, root_->root, root_->events) >= 0) {
+        return QOR_OK;
+    }
     const QORStatus status =
         QORAnswer(iInterface, oInterface, abstract_, spec_, childManagement_, flow_, itemManagement_);
     return status < 0 ? ModelObject::QueryInterface(iInterface, oInterface) : status;
@@ -46,7 +82,6 @@ QORStatus Activity::QueryInterface(const QORInterfaceID& iInterface, void** oInt
 
 void Activity::forgetNeighbours() {
     FlowObject::forgetNeighbours();
-    parent_ = nullptr;
     children.reset();
     for (ObjectList* list : {&firstAssigned, &assigned, &removed, &items, &outputs}) {
         list->reset();
@@ -81,26 +116,31 @@ QORListValQORBaseUnknown_var* Activity::GetChildren(const QORUnicodeString& iTyp
 
 namespace {
 
-/// The activities of a view; resources and behaviours that are linked with one stay out.
+/// Adds the object to the handles when it is an activity that the filter lets through; resources and behaviours that
+/// are linked with one stay out.
 template <class Filter>
-QORListValQORBaseUnknown_var activitiesOf(const OptionalList<FlowObject*>& view, Filter filter) {
-    QORListValQORBaseUnknown_var handles;
-    for (FlowObject* neighbour : view) {
-        if (neighbour->sort() == Sort::Activity && filter(static_cast<const Activity&>(*neighbour))) {
-            handles.Append(QORBaseUnknown_var(neighbour));
-        }
+void appendActivity(QORListValQORBaseUnknown_var& handles, FlowObject* object, Filter filter) {
+    if (object->sort() == Sort::Activity && filter(static_cast<const Activity&>(*object))) {
+        handles.Append(QORBaseUnknown_var(object));
     }
-    return handles;
 }
 
 } // namespace
 
 QORListValQORBaseUnknown_var Activity::GetPredecessors(const QORUnicodeString& iType) const {
-    return activitiesOf(predecessors(), [&](const Activity& activity) { return activity.matches(iType); });
+    QORListValQORBaseUnknown_var handles;
+    for (const Link* link : linksIn()) {
+        appendActivity(handles, link->from, [&](const Activity& activity) { return activity.matches(iType); });
+    }
+    return handles;
 }
 
 QORListValQORBaseUnknown_var Activity::GetSuccessors(const QORUnicodeString& iType) const {
-    return activitiesOf(successors(), [&](const Activity& activity) { return activity.matches(iType); });
+    QORListValQORBaseUnknown_var handles;
+    for (const Link* link : linksOut()) {
+        appendActivity(handles, link->to, [&](const Activity& activity) { return activity.matches(iType); });
+    }
+    return handles;
 }
 
 QORListValQORBaseUnknown_var Activity::GetProductOutputs(const QORISPPItem_var& iItem) const {

@@ -11,12 +11,15 @@
 #include "model/QORISPPItemMgt.h"
 #include "model/QORISpecObject.h"
 
+class QOREventSubscriber;
+
 namespace planner {
 
 /// A step of the plan, or a logical node, which answers the same but QORISPPActivity and is of no model type.
 class Activity final : public FlowObject {
 public:
-    Activity() : FlowObject(Sort::Activity) {}
+    Activity();
+    ~Activity() override;
 
     ActivityKind kind() const { return kind_; }
     bool hasOwnKind() const { return hasOwnKind_; }
@@ -29,8 +32,11 @@ public:
     void setType(std::string type) { type_ = std::make_unique<std::string>(std::move(type)); }
 
     /// The containing activity; null for the root and for an activity of a behaviour.
-    Activity* parent() const { return parent_; }
-    void setParent(Activity* parent) { parent_ = parent; }
+    Activity* parent() const;
+    void setParent(Activity* parent) { setContainer(parent); }
+
+    /// Makes this the root of a process, which answers QORISPPActivityRoot and QORISPPActivityModificationEvents too.
+    void becomeRoot();
 
     // Items by relation, and what the activity puts out.
     ObjectList firstAssigned;
@@ -46,7 +52,7 @@ public:
 
     // Answers of QORISPPAbstractActivity.
     QORUnicodeString GetName() const { return platformText(name()); }
-    QORISPPAbstractActivity_var GetParent() const { return parent_; }
+    QORISPPAbstractActivity_var GetParent() const { return parent(); }
     QORStatus GetType(QORUnicodeString& oType) const;
 
     // Answer of QORISpecObject.
@@ -63,14 +69,19 @@ public:
     // Answer of QORISPPItemMgt.
     QORListValQORBaseUnknown_var* GetItems(const QORUnicodeString& iKind, int iRelation) const;
 
+    // Answer of QORISPPActivityModificationEvents.
+    QOREventSubscriber* GetEventPublisher() const;
+
 private:
+    class Root;
+
     bool matches(const QORUnicodeString& type) const;
     QORListValQORBaseUnknown_var* newAllItems() const;
 
     ActivityKind kind_ = ActivityKind::Activity;
     bool hasOwnKind_ = false;
     std::unique_ptr<std::string> type_;
-    Activity* parent_ = nullptr;
+    std::unique_ptr<Root> root_;
     QORISPPActivityTie<Activity> step_{this};
     QORISPPAbstractActivityTie<Activity> abstract_{this};
     QORISpecObjectTie<Activity> spec_{this};

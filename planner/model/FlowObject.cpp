@@ -3,16 +3,31 @@
 namespace planner {
 
 void FlowObject::forgetNeighbours() {
-    successors_.reset();
-    predecessors_.reset();
+    linksOut_.reset();
+    linksIn_.reset();
+    container_ = nullptr;
 }
 
-QORListValQORBaseUnknown_var* FlowObject::newView(const OptionalList<FlowObject*>& view) const {
-    const bool linked = !successors_.empty() || !predecessors_.empty();
-    if (linked && view.empty()) {
-        return new QORListValQORBaseUnknown_var();
+QORListValQORBaseUnknown_var* FlowObject::newPredecessors() const {
+    if (!isLinked()) {
+        return nullptr;
     }
-    return linked ? newHandles(view) : nullptr;
+    auto handles = std::make_unique<QORListValQORBaseUnknown_var>();
+    for (const Link* link : linksIn_) {
+        handles->Append(QORBaseUnknown_var(link->from));
+    }
+    return handles.release();
+}
+
+QORListValQORBaseUnknown_var* FlowObject::newSuccessors() const {
+    if (!isLinked()) {
+        return nullptr;
+    }
+    auto handles = std::make_unique<QORListValQORBaseUnknown_var>();
+    for (const Link* link : linksOut_) {
+        handles->Append(QORBaseUnknown_var(link->to));
+    }
+    return handles.release();
 }
 
 } // namespace planner

@@ -1,30 +1,42 @@
 #pragma once
 
+#include "planner/model/Link.h"
 #include "planner/model/ModelObject.h"
 
 namespace planner {
 
+using LinkView = OptionalList<Link*>;
+
 /// An object that links can join: an activity, a resource, a behaviour that has an id.
 class FlowObject : public ModelObject {
 public:
-    /// What is linked behind and in front of this one, in the order of the plan's links.
-    const OptionalList<FlowObject*>& successors() const { return successors_; }
-    const OptionalList<FlowObject*>& predecessors() const { return predecessors_; }
+    /// The links that begin here, and those that end here, each in the order of the plan's list.
+    const LinkView& linksOut() const { return linksOut_; }
+    const LinkView& linksIn() const { return linksIn_; }
+
+    /// What the object stands in: an activity in an activity or a behaviour, a behaviour in its resource, a resource in
+    /// a resource. Null at the top and for what doesn't stand in the plan.
+    ModelObject* container() const { return container_; }
+    void setContainer(ModelObject* container) { container_ = container; }
 
     void forgetNeighbours() override;
 
 protected:
     using ModelObject::ModelObject;
 
-    /// A new list of the one or the other view, which the caller deletes; null when there is no link at all, an empty
-    /// list when there is none in this direction.
-    QORListValQORBaseUnknown_var* newView(const OptionalList<FlowObject*>& view) const;
+    /// New lists of what is linked in front of this object and behind it, which the caller deletes; null when there is
+    /// no link at all, an empty list when there is none in this direction.
+    QORListValQORBaseUnknown_var* newPredecessors() const;
+    QORListValQORBaseUnknown_var* newSuccessors() const;
 
 private:
     friend class Plan;
 
-    OptionalList<FlowObject*> successors_;
-    OptionalList<FlowObject*> predecessors_;
+    bool isLinked() const { return !linksOut_.empty() || !linksIn_.empty(); }
+
+    LinkView linksOut_;
+    LinkView linksIn_;
+    ModelObject* container_ = nullptr;
 };
 
 } // namespace planner

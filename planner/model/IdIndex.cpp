@@ -43,6 +43,23 @@ void IdIndex::insert(ModelObject& object) {
     ++count_;
 }
 
+void IdIndex::erase(const ModelObject& object) {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t gap = hashOf(object.id()) & mask;
+    while (slots_[gap].object != &object) {
+        gap = (gap + 1) & mask;
+    }
+    // An entry behind the gap moves into it unless its own probing begins behind the gap.
+    for (std::size_t at = (gap + 1) & mask; slots_[at].object; at = (at + 1) & mask) {
+        if (((at - slots_[at].hash) & mask) >= ((at - gap) & mask)) {
+            slots_[gap] = slots_[at];
+            gap = at;
+        }
+    }
+    slots_[gap] = Slot();
+    --count_;
+}
+
 void IdIndex::place(std::vector<Slot>& slots, Slot entry) {
     const std::size_t mask = slots.size() - 1;
     std::size_t at = entry.hash & mask;

@@ -18,6 +18,9 @@ public:
     /// Enters an object under its id, which no other object in the index has and which stays the same.
     void insert(ModelObject& object);
 
+    /// Takes out an object that is in the index.
+    void erase(const ModelObject& object);
+
 private:
     struct Slot {
         std::size_t hash = 0;

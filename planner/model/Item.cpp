@@ -6,17 +6,20 @@ namespace planner {
 
 const Geometry& Item::geometry() const {
     static const Geometry none;
-    return geometry_ ? *geometry_ : none;
+    return body_ ? body_->geometry : none;
 }
 
-Geometry& Item::makeGeometry() {
-    if (!geometry_) {
-        geometry_ = std::make_unique<Geometry>();
+Item::Body& Item::makeBody() {
+    if (!body_) {
+        body_ = std::make_unique<Body>(this);
     }
-    return *geometry_;
+    return *body_;
 }
 
 QORStatus Item::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    if (geometry().shape && QORAnswer(iInterface, oInterface, body_->visible) >= 0) {
+        return QOR_OK;
+    }
     const QORStatus status = QORAnswer(iInterface, oInterface, item_);
     return status < 0 ? ModelObject::QueryInterface(iInterface, oInterface) : status;
 }
@@ -29,6 +32,7 @@ QORStatus Product::QueryInterface(const QORInterfaceID& iInterface, void** oInte
 }
 
 void Product::forgetNeighbours() {
+    Item::forgetNeighbours();
     children.reset();
 }
 

@@ -8,10 +8,14 @@
 #include "model/QORISPPItem.h"
 #include "model/VXMIBIWFastener.h"
 #include "model/VXMIMfgAssembly.h"
+#include "visualization/QORI3DGeoVisu.h"
 
 namespace planner {
 
-/// Something that activities and resources list. This class alone is the kind "item": a tool, a jig.
+class Plan;
+
+/// Something that activities and resources list. This class alone is the kind "item": a tool, a jig. With a shape it
+/// can be seen in space.
 class Item : public ModelObject {
 public:
     explicit Item(ItemKind kind = ItemKind::Item) : ModelObject(Sort::Item), kind_(kind) {}
@@ -22,20 +26,35 @@ public:
     virtual bool answersProduct() const { return false; }
 
     const Geometry& geometry() const;
-    void setShape(Shape shape) { makeGeometry().shape = std::move(shape); }
-    void setPlace(Place place) { makeGeometry().place = std::move(place); }
+    void setShape(std::optional<Shape> shape) { makeBody().geometry.shape = std::move(shape); }
+    void setPlace(std::optional<Place> place) { makeBody().geometry.place = std::move(place); }
 
     QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
-    void forgetNeighbours() override {}
+    void forgetNeighbours() override { plan_ = nullptr; }
 
     // Answer of QORISPPItem, and of VXMIMfgAssembly.
     QORUnicodeString GetName() const { return platformText(name()); }
 
+    // Answers of QORI3DGeoVisu.
+    QORStatus GetShape(QORGeoShape& oShape) const;
+    QORStatus GetPlace(QORGeoPlace& oPlace) const;
+
 private:
-    Geometry& makeGeometry();
+    friend class Plan;
+
+    /// What an item has that isn't without extent; once made it stays, since handles may go through it.
+    struct Body {
+        explicit Body(Item* item) : visible(item) {}
+        Geometry geometry;
+        QORI3DGeoVisuTie<Item> visible;
+    };
+
+    Body& makeBody();
+    std::string pathOf(const std::string& file) const;
 
     ItemKind kind_;
-    std::unique_ptr<Geometry> geometry_;
+    const Plan* plan_ = nullptr;
+    std::unique_ptr<Body> body_;
     QORISPPItemTie<Item> item_{this};
 };
 

@@ -21,6 +21,11 @@ void ModelObject::setName(std::string name) {
     hasOwnName_ = true;
 }
 
+void ModelObject::swapName(std::string& name, bool& isOwn) {
+    name_.swap(name);
+    std::swap(hasOwnName_, isOwn);
+}
+
 const std::string& ModelObject::notes() const {
     static const std::string none;
     return notes_ ? *notes_ : none;

@@ -3,12 +3,14 @@
 #include "planner/model/OptionalList.h"
 
 #include "collections/QORListValQORBaseUnknown_var.h"
+#include "framework/QORObjectCounts.h"
 #include "framework/QORVar.h"
 #include "text/QORUnicodeString.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace planner {
 
@@ -23,8 +25,10 @@ const char* sortText(Sort sort);
 /// Objects are made by a Plan, which keeps one reference on each until it ends. They point to each other without
 /// counting, so that a plan of any shape ends without a cycle and without depth; a handle that outlives the plan is
 /// still good, but its object has forgotten its neighbours by then.
-class ModelObject : public QORBaseUnknown {
+class ModelObject : public QORBaseUnknown, private QORCounted<ModelObject> {
 public:
+    static constexpr std::string_view kCountName = "planner::ModelObject";
+
     Sort sort() const { return sort_; }
 
     /// Empty for what the file gives no id: a behaviour without one, the root of a plan without a process.
@@ -34,6 +38,16 @@ public:
     const std::string& name() const { return hasOwnName_ ? name_ : id_; }
     bool hasOwnName() const { return hasOwnName_; }
     void setName(std::string name);
+
+    /// Puts other values in the place of the name and of whether it is an own one; they get the present ones.
+    void swapName(std::string& name, bool& isOwn);
+
+    /// Whether the object stands in its plan. What was removed, or wasn't added yet, doesn't.
+    bool isPlaced() const { return isPlaced_; }
+
+    /// Where in its list the object was when somebody last looked: a place to begin a search at.
+    std::size_t placeHint() const { return placeHint_; }
+    void setPlaceHint(std::size_t place) const { placeHint_ = static_cast<std::uint32_t>(place); }
 
     /// Remarks that were kept for a user of the file: JSON text, empty when there are none.
     const std::string& notes() const;
@@ -56,6 +70,8 @@ private:
     std::unique_ptr<std::string> notes_;
     Sort sort_;
     bool hasOwnName_ = false;
+    bool isPlaced_ = false;
+    mutable std::uint32_t placeHint_ = 0;
 };
 
 using ObjectList = OptionalList<ModelObject*>;

@@ -11,6 +11,8 @@ namespace planner {
 template <class T>
 class OptionalList {
 public:
+    using Entries = std::vector<T>;
+
     bool present() const { return entries_ != nullptr; }
 
     /// Number of entries, 0 when absent.

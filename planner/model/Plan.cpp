@@ -1,5 +1,7 @@
 #include "planner/model/Plan.h"
 
+#include "planner/model/Contents.h"
+
 #include <algorithm>
 
 namespace planner {
@@ -21,18 +23,28 @@ T& Plan::keep(std::unique_ptr<T> object) {
     return *object.release();
 }
 
-Item& Plan::newItem(ItemKind kind) {
+namespace {
+
+std::unique_ptr<Item> makeItem(ItemKind kind) {
     switch (kind) {
     case ItemKind::Product:
-        return keep(std::make_unique<Product>());
+        return std::make_unique<Product>();
     case ItemKind::Assembly:
-        return keep(std::make_unique<Assembly>());
+        return std::make_unique<Assembly>();
     case ItemKind::Fastener:
-        return keep(std::make_unique<Fastener>());
+        return std::make_unique<Fastener>();
     case ItemKind::Item:
         break;
     }
-    return keep(std::make_unique<Item>());
+    return std::make_unique<Item>();
+}
+
+} // namespace
+
+Item& Plan::newItem(ItemKind kind) {
+    Item& item = keep(makeItem(kind));
+    item.plan_ = this;
+    return item;
 }
 
 Activity& Plan::newActivity() {
@@ -50,8 +62,13 @@ Resource& Plan::newResource() {
 void Plan::makeDefaultProcess() {
     Activity& root = newActivity();
     root.setName(title());
-    process_ = &root;
+    setProcess(root);
     processIsDefault_ = true;
+}
+
+void Plan::setProcess(Activity& root) {
+    root.becomeRoot();
+    process_ = &root;
 }
 
 bool Plan::setId(ModelObject& object, std::string id) {
@@ -63,50 +80,19 @@ bool Plan::setId(ModelObject& object, std::string id) {
     return true;
 }
 
-void Plan::addLink(FlowObject& from, FlowObject& to) {
-    links_.add({&from, &to});
-    from.successors_.add(&to);
-    to.predecessors_.add(&from);
-}
-
-namespace {
-
-/// Puts what the object contains on the stack, the first one on top.
-void pushContained(ModelObject& object, std::vector<ModelObject*>& open) {
-    const auto pushReversed = [&](const auto& list) {
-        std::for_each(list.entries().rbegin(), list.entries().rend(), [&](ModelObject* entry) {
-            if (entry->sort() != Sort::Item) {
-                open.push_back(entry);
-            }
-        });
-    };
-    if (object.sort() == Sort::Activity) {
-        pushReversed(static_cast<Activity&>(object).children);
-    } else if (object.sort() == Sort::Behaviour) {
-        pushReversed(static_cast<Behaviour&>(object).activities);
-    } else if (object.sort() == Sort::Resource) {
-        auto& resource = static_cast<Resource&>(object);
-        pushReversed(resource.children);
-        if (resource.behaviour()) {
-            open.push_back(resource.behaviour());
-        }
-    }
-}
-
-} // namespace
-
 void Plan::number() {
-    int next = 1;
     for (Item* item : items) {
-        static_cast<ModelObject*>(item)->SetIdentity(next++);
+        numberNew(*item);
+        item->isPlaced_ = true;
     }
-    std::vector<ModelObject*> open(resources.entries().rbegin(), resources.entries().rend());
-    open.push_back(process_);
-    while (!open.empty()) {
-        ModelObject* const object = open.back();
-        open.pop_back();
-        object->SetIdentity(next++);
-        pushContained(*object, open);
+    std::vector<ModelObject*> tops(resources.entries().begin(), resources.entries().end());
+    tops.insert(tops.begin(), process_);
+    for (ModelObject* top : tops) {
+        walkContents(*top, [this](FlowObject& object, ModelObject* container) {
+            numberNew(object);
+            object.isPlaced_ = true;
+            object.setContainer(container);
+        });
     }
 }
 

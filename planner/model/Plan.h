@@ -1,6 +1,7 @@
 #pragma once
 
 #include "planner/model/IdIndex.h"
+#include "planner/model/LinkList.h"
 #include "planner/model/Resource.h"
 
 #include <memory>
@@ -10,12 +11,6 @@
 #include <vector>
 
 namespace planner {
-
-/// A directed link of the flow.
-struct Link {
-    FlowObject* from;
-    FlowObject* to;
-};
 
 /// A process plan in memory: items, one process tree, resources, links. It makes its objects, keeps each for its own
 /// life whether it stands in the plan or not, and takes the graph apart at its end.
@@ -31,17 +26,20 @@ public:
     std::string fallbackTitle;
     const std::string& title() const { return ownTitle ? *ownTitle : fallbackTitle; }
 
+    /// Folder of the plan's file, from which paths in it are relative; empty for the current one.
+    std::string folder;
+
     /// Remarks: JSON text, empty when there are none.
     std::string notes;
 
     // What stands in the plan, in order. Presence tells an absent list from an empty one.
     OptionalList<Item*> items;
     OptionalList<Resource*> resources;
-    const OptionalList<Link>& links() const { return links_; }
+    const LinkList& links() const { return links_; }
 
     /// Root of the process, null until setProcess or makeDefaultProcess was called.
     Activity* process() const { return process_; }
-    void setProcess(Activity& root) { process_ = &root; }
+    void setProcess(Activity& root);
 
     /// Whether the root stands for a process that the file doesn't have.
     bool processIsDefault() const { return processIsDefault_; }
@@ -62,12 +60,37 @@ public:
     ModelObject* find(std::string_view id) const { return byId_.find(id); }
 
     /// Appends a link at the end of the plan's list and of both views.
-    void addLink(FlowObject& from, FlowObject& to);
-    void makeLinks() { links_.make(); }
+    void addLink(FlowObject& from, FlowObject& to) { putLink(links_.make(from, to), nullptr); }
+    void makeLinks() { links_.setPresent(true); }
 
     /// Gives every object that stands in the plan its identity number, from 1: items, the process depth first, then
-    /// the resources depth first, where a behaviour and its activities come before the children.
+    /// the resources depth first, where a behaviour and its activities come before the children. Tells each what it
+    /// stands in.
     void number();
+
+    // For editing. What is taken out stays in memory and comes back as the same object.
+
+    /// Gives an object that is added to a numbered plan the next number.
+    void numberNew(ModelObject& object) { object.SetIdentity(nextNumber_++); }
+
+    /// The object counts as standing in the plan from now on, under its id, which no other object has; or no longer.
+    void enter(ModelObject& object);
+    void leave(ModelObject& object);
+
+    /// Gives up an object that was made and doesn't stand in the plan.
+    void discard(ModelObject& object);
+
+    /// Turns the default root into a process of its own under that id, and back.
+    void ownProcess(std::string id);
+    void disownProcess();
+
+    /// Links that come and go. A new one is put in to stand in the list and in both views, a link in front of another
+    /// (null for the end of the list), and can be taken out again.
+    Link& newLink(FlowObject& from, FlowObject& to) { return links_.make(from, to); }
+    void putLink(Link& link, Link* before);
+    void takeLink(Link& link);
+    void discardLink(Link& link) { links_.discard(link); }
+    void setLinksPresent(bool present) { links_.setPresent(present); }
 
 private:
     template <class T>
@@ -75,9 +98,10 @@ private:
 
     std::vector<ModelObject*> objects_;
     IdIndex byId_;
-    OptionalList<Link> links_;
+    LinkList links_;
     Activity* process_ = nullptr;
     bool processIsDefault_ = false;
+    int nextNumber_ = 1;
 };
 
 } // namespace planner

@@ -33,8 +33,8 @@ public:
     QORListValQORBaseUnknown_var* GetOutputItems() const { return newHandles(outputs); }
 
     // Answers of VXMIResourceFlowMgmt.
-    QORListValQORBaseUnknown_var* GetPredecessors() const { return newView(predecessors()); }
-    QORListValQORBaseUnknown_var* GetSuccessors() const { return newView(successors()); }
+    QORListValQORBaseUnknown_var* GetPredecessors() const { return newPredecessors(); }
+    QORListValQORBaseUnknown_var* GetSuccessors() const { return newSuccessors(); }
 
 private:
     VXMIResourceBehaviorTie<Behaviour> behaviour_{this};
@@ -66,8 +66,8 @@ public:
     QORStatus GetBehavior(VXMIResourceBehavior_var& oBehavior) const;
 
     // Answers of VXMIResourceFlowMgmt.
-    QORListValQORBaseUnknown_var* GetPredecessors() const { return newView(predecessors()); }
-    QORListValQORBaseUnknown_var* GetSuccessors() const { return newView(successors()); }
+    QORListValQORBaseUnknown_var* GetPredecessors() const { return newPredecessors(); }
+    QORListValQORBaseUnknown_var* GetSuccessors() const { return newSuccessors(); }
 
     // Answer of QORISpecObject.
     unsigned char IsOfType(const QORUnicodeString&) const { return 0; }
