@@ -1,18 +1,24 @@
 #include "collections/QORHashDico.h"
 
 QORHashDico::QORHashDico(int iSizeHint) {
-    _positions.reserve(iSizeHint > 0 ? iSizeHint : 0);
+    _entries.reserve(iSizeHint > 0 ? iSizeHint : 0);
+}
+
+int QORHashDico::Find(const QORUnicodeString& iKey) const {
+    return _positions.Find(
+        iKey, [this](int iPosition) -> const auto& { return _entries[iPosition - 1].key; });
 }
 
 void QORHashDico::Insert(const QORUnicodeString& iKey, void* iValue) {
-    if (_positions.emplace(iKey, Size()).second) {
-        _values.push_back(iValue);
+    if (Find(iKey) == 0) {
+        _entries.push_back({iKey, iValue});
+        _positions.Enter(iKey, Size());
     }
 }
 
 void* QORHashDico::Locate(const QORUnicodeString& iKey) const {
-    const auto place = _positions.find(iKey);
-    return place == _positions.end() ? nullptr : _values[place->second];
+    const int position = Find(iKey);
+    return position == 0 ? nullptr : _entries[position - 1].value;
 }
 
 void* QORHashDico::NextItem(int& ioPosition, int& ioVisited) const {
@@ -20,10 +26,10 @@ void* QORHashDico::NextItem(int& ioPosition, int& ioVisited) const {
         return nullptr;
     }
     ++ioVisited;
-    return _values[ioPosition++];
+    return _entries[ioPosition++].value;
 }
 
 void QORHashDico::RemoveAll() {
-    _positions.clear();
-    _values.clear();
+    _positions.Clear();
+    _entries.clear();
 }

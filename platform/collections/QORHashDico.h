@@ -1,8 +1,7 @@
 #pragma once
 
-#include "text/QORUnicodeString.h"
+#include "collections/QORTextIndex.h"
 
-#include <unordered_map>
 #include <vector>
 
 /// Dictionary from text to plain pointer. Owns nothing that it points to.
@@ -21,10 +20,17 @@ public:
     /// hand them back unchanged.
     void* NextItem(int& ioPosition, int& ioVisited) const;
 
-    int Size() const { return static_cast<int>(_values.size()); }
+    int Size() const { return static_cast<int>(_entries.size()); }
     void RemoveAll();
 
 private:
-    std::unordered_map<QORUnicodeString, int> _positions;
-    std::vector<void*> _values;
+    struct Entry {
+        QORUnicodeString key;
+        void* value;
+    };
+
+    int Find(const QORUnicodeString& iKey) const;
+
+    std::vector<Entry> _entries;
+    QORTextIndex _positions;
 };

@@ -15,8 +15,8 @@ const QORUnicodeString& QORListValQORUnicodeString::operator[](int iPosition) co
 
 void QORListValQORUnicodeString::Append(QORUnicodeString iText) {
     _texts.push_back(std::move(iText));
-    if (_indexed) {
-        _firstPositions.emplace(_texts.back(), Size());
+    if (_indexed && FindFirst(_texts.back()) == 0) {
+        _firstPositions.Enter(_texts.back(), Size());
     }
 }
 
@@ -27,8 +27,12 @@ int QORListValQORUnicodeString::Locate(const QORUnicodeString& iText, int iFrom)
     if (!_indexed) {
         MakeIndex();
     }
-    const auto place = _firstPositions.find(iText);
-    return place == _firstPositions.end() ? 0 : place->second;
+    return FindFirst(iText);
+}
+
+int QORListValQORUnicodeString::FindFirst(const QORUnicodeString& iText) const {
+    return _firstPositions.Find(
+        iText, [this](int iPosition) -> const auto& { return _texts[iPosition - 1]; });
 }
 
 int QORListValQORUnicodeString::Scan(const QORUnicodeString& iText, int iFrom) const {
@@ -37,9 +41,11 @@ int QORListValQORUnicodeString::Scan(const QORUnicodeString& iText, int iFrom) c
 }
 
 void QORListValQORUnicodeString::MakeIndex() const {
-    _firstPositions.clear();
+    _firstPositions.Clear();
     for (int position = 1; position <= Size(); ++position) {
-        _firstPositions.emplace((*this)[position], position);
+        if (FindFirst((*this)[position]) == 0) {
+            _firstPositions.Enter((*this)[position], position);
+        }
     }
     _indexed = true;
 }
@@ -58,10 +64,13 @@ void QORListValQORUnicodeString::RemovePositionUnordered(int iPosition) {
     }
     const int last = Size();
     // Only without repeats is it known that each text's first position is its only one.
-    _indexed = _indexed && _firstPositions.size() == _texts.size();
+    _indexed = _indexed && _firstPositions.Size() == last;
     if (_indexed) {
-        _firstPositions[(*this)[last]] = iPosition;
-        _firstPositions.erase((*this)[iPosition]);
+        _firstPositions.Remove((*this)[iPosition], iPosition);
+        if (iPosition != last) {
+            _firstPositions.Remove((*this)[last], last);
+            _firstPositions.Enter((*this)[last], iPosition);
+        }
     }
     std::swap(_texts[iPosition - 1], _texts[last - 1]);
     _texts.pop_back();
@@ -69,6 +78,6 @@ void QORListValQORUnicodeString::RemovePositionUnordered(int iPosition) {
 
 void QORListValQORUnicodeString::RemoveAll() {
     _texts.clear();
-    _firstPositions.clear();
+    _firstPositions.Clear();
     _indexed = false;
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "text/QORUnicodeString.h"
+#include "collections/QORTextIndex.h"
 
-#include <unordered_map>
 #include <vector>
 
 /// List of texts, positions from 1. Looking a text up from the front costs the same at any size: an index of first
@@ -32,8 +31,9 @@ public:
 private:
     int Scan(const QORUnicodeString& iText, int iFrom) const;
     void MakeIndex() const;
+    int FindFirst(const QORUnicodeString& iText) const;
 
     std::vector<QORUnicodeString> _texts;
-    mutable std::unordered_map<QORUnicodeString, int> _firstPositions;
+    mutable QORTextIndex _firstPositions;
     mutable bool _indexed = false;
 };
