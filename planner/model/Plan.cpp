@@ -82,14 +82,14 @@ bool Plan::setId(ModelObject& object, std::string id) {
 
 void Plan::number() {
     for (Item* item : items) {
-        numberNew(*item);
+        numberNext(*item);
         item->isPlaced_ = true;
     }
     std::vector<ModelObject*> tops(resources.entries().begin(), resources.entries().end());
     tops.insert(tops.begin(), process_);
     for (ModelObject* top : tops) {
         walkContents(*top, [this](FlowObject& object, ModelObject* container) {
-            numberNew(object);
+            numberNext(object);
             object.isPlaced_ = true;
             object.setContainer(container);
         });

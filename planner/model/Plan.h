@@ -70,8 +70,8 @@ public:
 
     // For editing. What is taken out stays in memory and comes back as the same object.
 
-    /// Gives an object that is added to a numbered plan the next number.
-    void numberNew(ModelObject& object) { object.SetIdentity(nextNumber_++); }
+    /// Gives a new object of a numbered plan its id, which counts from `enter` on, and the next number.
+    void nameNew(ModelObject& object, std::string id);
 
     /// The object counts as standing in the plan from now on, under its id, which no other object has; or no longer.
     void enter(ModelObject& object);
@@ -93,6 +93,8 @@ public:
     void setLinksPresent(bool present) { links_.setPresent(present); }
 
 private:
+    void numberNext(ModelObject& object) { object.SetIdentity(nextNumber_++); }
+
     template <class T>
     T& keep(std::unique_ptr<T> object);
 

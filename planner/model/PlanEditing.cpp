@@ -6,6 +6,11 @@
 
 namespace planner {
 
+void Plan::nameNew(ModelObject& object, std::string id) {
+    object.id_ = std::move(id);
+    numberNext(object);
+}
+
 void Plan::enter(ModelObject& object) {
     object.isPlaced_ = true;
     if (!object.id().empty()) {

@@ -1,0 +1,67 @@
+#include "planner/edit/Change.h"
+
+namespace planner {
+
+void Placement::apply() {
+    if (from_) {
+        takeOut(*from_);
+    }
+    if (to_) {
+        wasPresent_ = to_->list.present();
+        putIn(*to_);
+    }
+}
+
+void Placement::revert() {
+    if (to_) {
+        takeOut(*to_);
+        if (!wasPresent_) {
+            to_->list.reset();
+        }
+    }
+    if (from_) {
+        putIn(*from_);
+    }
+}
+
+void Placement::putIn(Spot& spot) {
+    spot.list.insert(spot.position, object_);
+    if (object_.sort() != Sort::Item) {
+        static_cast<FlowObject&>(object_).setContainer(spot.owner);
+    } else if (ObjectList* const list = spot.list.objects()) {
+        mentions_.came(object_, *spot.owner, *list);
+    }
+}
+
+void Placement::takeOut(Spot& spot) {
+    spot.list.erase(spot.position);
+    if (object_.sort() != Sort::Item) {
+        static_cast<FlowObject&>(object_).setContainer(nullptr);
+    } else if (const ObjectList* const list = spot.list.objects()) {
+        mentions_.went(object_, *list);
+    }
+}
+
+void Standing::enter() {
+    for (ModelObject* object : objects_) {
+        plan_.enter(*object);
+        mentions_.ownerCame(*object);
+    }
+}
+
+void Standing::leave() {
+    for (ModelObject* object : objects_) {
+        mentions_.ownerWent(*object);
+        plan_.leave(*object);
+    }
+}
+
+void Standing::forget() {
+    if (direction_ == Entering) {
+        for (ModelObject* object : objects_) {
+            plan_.discard(*object);
+        }
+    }
+}
+
+} // namespace planner

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "planner/model/Plan.h"
+
+#include "frame/QORInit.h"
+#include "framework/QORObjectCounts.h"
+
+#include <memory>
+
+namespace planner {
+
+/// A plan as a document of the platform, of class "QORProcess". Answers QORInit, whose container of processes has one
+/// entry: the plan's root activity.
+class PlanDocument final : public QORBaseUnknown, private QORCounted<PlanDocument> {
+public:
+    static constexpr std::string_view kCountName = "planner::PlanDocument";
+
+    /// Takes the plan over. It has a process, as every plan that was read does, and its objects are numbered.
+    explicit PlanDocument(std::unique_ptr<Plan> plan);
+    ~PlanDocument() override;
+
+    Plan& plan() { return *plan_; }
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+
+    // Answer of QORInit. The container keeps the document.
+    QORBaseUnknown* GetRootContainer(const char* iInterface);
+
+private:
+    std::unique_ptr<Plan> plan_;
+    QORInitTie<PlanDocument> init_{this};
+};
+
+} // namespace planner

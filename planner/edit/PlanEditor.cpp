@@ -1,0 +1,132 @@
+#include "planner/edit/PlanEditor.h"
+
+#include "planner/edit/Checks.h"
+#include "planner/model/Contents.h"
+
+#include "notification/QORSPPActivityNotificationDispatcher.h"
+
+#include <exception>
+
+namespace planner {
+
+PlanEditor::PlanEditor(PlanDocument& document) : document_(&document), mentions_(document.plan()) {}
+
+PlanEditor::~PlanEditor() = default;
+
+ModelObject& PlanEditor::object(const std::string& id) const {
+    ModelObject* const found = plan().find(id);
+    if (!found) {
+        throw EditError(EditError::Fault::UnknownObject, '"' + id + "\" is not in this plan");
+    }
+    return *found;
+}
+
+void PlanEditor::group(const std::string& text, const std::function<void()>& edits) {
+    perform(text, edits);
+}
+
+void PlanEditor::finishStep() {
+    Step step = std::move(*open_);
+    open_.reset();
+    if (step.size() == 0) {
+        return;
+    }
+    const Kinds kinds = step.kindsMade();
+    stack_.push(std::move(step));
+    publish(kinds);
+}
+
+bool PlanEditor::undo() {
+    if (!canUndo()) {
+        return false;
+    }
+    publish(stack_.undo());
+    return true;
+}
+
+bool PlanEditor::redo() {
+    if (!canRedo()) {
+        return false;
+    }
+    publish(stack_.redo());
+    return true;
+}
+
+/// Uses nothing of the editor once it tells: a subscriber may end it.
+void PlanEditor::publish(const Kinds& kinds) const {
+    const QORVar<QOREventSubscriber> publisher(plan().process()->GetEventPublisher());
+    std::exception_ptr first;
+    for (const int kind : kinds.numbers()) {
+        try {
+            QORSPPActivityNotificationDispatcher::Dispatch(*publisher.Get(), kind);
+        } catch (...) {
+            first = first ? first : std::current_exception();
+        }
+    }
+    if (first) {
+        std::rethrow_exception(first);
+    }
+}
+
+namespace {
+
+/// An id that no object of the plan has, and that isn't the reserved one.
+std::string freeId(const Plan& plan, const std::string& reserved) {
+    std::string id = "process";
+    for (int number = 2; plan.find(id) || id == reserved; ++number) {
+        id = "process-" + std::to_string(number);
+    }
+    return id;
+}
+
+} // namespace
+
+void PlanEditor::ownProcess(const ModelObject& edited, const std::string& reservedId) {
+    Plan& plan = this->plan();
+    if (&edited == plan.process() && plan.processIsDefault()) {
+        open_->make(makeExchange({}, [&plan, reservedId] {
+            if (plan.processIsDefault()) {
+                plan.ownProcess(freeId(plan, reservedId));
+            } else {
+                plan.disownProcess();
+            }
+        }));
+    }
+}
+
+void PlanEditor::makeStanding(std::vector<ModelObject*> objects, Standing::Direction direction) {
+    open_->make(std::make_unique<Standing>(plan(), mentions_, std::move(objects), direction));
+}
+
+void PlanEditor::place(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to) {
+    open_->make(std::make_unique<Placement>(kinds, mentions_, object, std::move(from), std::move(to)));
+}
+
+/// Takes the links of a top and of all below it, and then all of them, out of the plan. The top is out of its list.
+void PlanEditor::takeContents(FlowObject& top) {
+    std::vector<ModelObject*> objects;
+    walkContents(top, [&](FlowObject& object, ModelObject*) { objects.push_back(&object); });
+    for (ModelObject* object : objects) {
+        const auto& flow = static_cast<const FlowObject&>(*object);
+        while (!flow.linksOut().empty()) {
+            takeLink(*flow.linksOut().entries().back());
+        }
+        while (!flow.linksIn().empty()) {
+            takeLink(*flow.linksIn().entries().back());
+        }
+    }
+    makeStanding(std::move(objects), Standing::Leaving);
+}
+
+void PlanEditor::rename(ModelObject& object, std::string name) {
+    checkPlaced(plan(), object);
+    checkText(name);
+    perform("Rename " + quoted(object), [&] {
+        ownProcess(object);
+        const ChangeKind kind = object.sort() == Sort::Item ? ChangeKind::ItemChanged : ChangeKind::Renamed;
+        open_->make(makeExchange(
+            {kind, kind}, [&object, name = std::move(name), isOwn = true]() mutable { object.swapName(name, isOwn); }));
+    });
+}
+
+} // namespace planner

@@ -1,0 +1,168 @@
+#pragma once
+
+#include "planner/edit/EditError.h"
+#include "planner/edit/Mentions.h"
+#include "planner/edit/PlanDocument.h"
+#include "planner/edit/UndoStack.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace planner {
+
+/// In the place of a position: behind the last entry.
+inline constexpr std::size_t kAtEnd = static_cast<std::size_t>(-1);
+
+/// What a new activity is. Without a value the plan file's defaults hold.
+struct NewActivity {
+    std::string id;
+    std::optional<std::string> name = {};
+    std::optional<ActivityKind> kind = {};
+    std::optional<std::string> type = {};
+};
+
+/// What a new item is.
+struct NewItem {
+    std::string id;
+    ItemKind kind = ItemKind::Item;
+    std::optional<std::string> name = {};
+};
+
+/// What a new resource is.
+struct NewResource {
+    std::string id;
+    std::optional<std::string> name = {};
+};
+
+/// Edits the plan of a document, and keeps the document.
+///
+/// Each operation is one step to undo. It either raises EditError with nothing changed, or changes the plan and then
+/// tells the views of it: one notification for each kind of change in the step (see ChangeKind), in the order of their
+/// numbers, by the publisher of the root activity. Undo and redo tell likewise. What a subscriber raises comes out when
+/// all have been told; the step has been made then and can be undone. Subscribers may edit, undo and end the editor.
+///
+/// After each operation the plan can be written to a file and read again: no id stands twice, nothing names what isn't
+/// there. What is removed takes what names it along: its places in lists and its links, with those of all that stands
+/// in it. Undo brings the same objects back, with their identity numbers, in their places; a list that was absent is
+/// absent again. Positions count from 0; kAtEnd appends.
+class PlanEditor {
+public:
+    explicit PlanEditor(PlanDocument& document);
+    ~PlanEditor();
+    PlanEditor(const PlanEditor&) = delete;
+    PlanEditor& operator=(const PlanEditor&) = delete;
+
+    Plan& plan() const { return document_->plan(); }
+
+    /// The object of that id, which has to be in the plan.
+    ModelObject& object(const std::string& id) const;
+
+    // Activities. The container is an activity or a behaviour. A plan without a process gets one of its own, under an
+    // id that is free, when its root is first edited.
+    Activity& addActivity(FlowObject& container, const NewActivity& made, std::size_t position = kAtEnd);
+
+    /// Removes an activity with all below it. The root stays.
+    void removeActivity(Activity& activity);
+
+    /// Moves an activity, in its container or to another; the position counts without it. Links stay.
+    void moveActivity(Activity& activity, FlowObject& container, std::size_t position = kAtEnd);
+
+    /// Gives any object a name of its own.
+    void rename(ModelObject& object, std::string name);
+
+    // Links between activities, resources and behaviours that have an id.
+    void addLink(FlowObject& from, FlowObject& to);
+
+    /// Removes the first link of these two ends.
+    void removeLink(FlowObject& from, FlowObject& to);
+
+    // The lists of items that activities, behaviours, resources and items have.
+    void putItem(ModelObject& owner, Relation relation, Item& item, std::size_t position = kAtEnd);
+
+    /// Takes out the item at a position. The list stays, be it empty.
+    void takeItem(ModelObject& owner, Relation relation, std::size_t position);
+
+    /// Makes an absent list an empty one; takes everything out of a list and makes it absent. Nothing happens to a list
+    /// that is as wanted. An assembly that others name as a child keeps its children.
+    void makeList(ModelObject& owner, Relation relation);
+    void dropList(ModelObject& owner, Relation relation);
+
+    // Resources. They stand in a resource, or at the top, which is null.
+    Resource& addResource(Resource* parent, const NewResource& made, std::size_t position = kAtEnd);
+    void removeResource(Resource& resource);
+    void moveResource(Resource& resource, Resource* parent, std::size_t position = kAtEnd);
+
+    /// Gives a resource that has none a behaviour; with an id it can be linked, with an empty one it has none.
+    Behaviour& addBehaviour(Resource& resource, const std::string& id);
+    void removeBehaviour(Resource& resource);
+
+    // Items.
+    Item& addItem(const NewItem& made, std::size_t position = kAtEnd);
+    void removeItem(Item& item);
+    void setShape(Item& item, std::optional<Shape> shape);
+    void setPlace(Item& item, std::optional<Place> place);
+    void setFastenerType(Fastener& fastener, std::optional<std::string> type);
+    void setAssigned(Fastener& fastener, std::optional<bool> assigned);
+
+    /// Makes one step of all edits that the function makes. When it raises, they are taken back and nobody hears of
+    /// them. A group in a group is part of it.
+    void group(const std::string& text, const std::function<void()>& edits);
+
+    // Undo and redo, without limit. The texts say what would be undone or redone, empty when there is nothing. Undoing
+    // nothing does nothing and gives false, and so does undoing inside a group.
+    bool canUndo() const { return !open_ && stack_.nextUndo(); }
+    bool canRedo() const { return !open_ && stack_.nextRedo(); }
+    std::string undoText() const { return canUndo() ? stack_.nextUndo()->text() : std::string(); }
+    std::string redoText() const { return canRedo() ? stack_.nextRedo()->text() : std::string(); }
+    bool undo();
+    bool redo();
+
+    /// Whether the plan differs from what was last saved, or from what the editor began with.
+    bool isModified() const { return stack_.isModified(); }
+    void markSaved() { stack_.markSaved(); }
+
+private:
+    template <class Edits>
+    void perform(const std::string& text, Edits edits);
+    void finishStep();
+    void publish(const Kinds& kinds) const;
+
+    void ownProcess(const ModelObject& edited, const std::string& reservedId = {});
+    void makeStanding(std::vector<ModelObject*> objects, Standing::Direction direction);
+    void place(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to);
+    void takeFromList(ModelObject& owner, ObjectList& list, std::size_t position);
+    void takeMentions(const Item& item);
+    void takeLink(Link& link);
+    void takeContents(FlowObject& top);
+    void checkMayDrop(const ModelObject& owner, const ObjectList& list);
+    ObjectList& listFor(ModelObject& owner, Relation relation) const;
+
+    QORVar<PlanDocument> document_;
+    Mentions mentions_;
+    UndoStack stack_;
+    std::optional<Step> open_; // the step that is being made
+};
+
+template <class Edits>
+void PlanEditor::perform(const std::string& text, Edits edits) {
+    const bool isOwnStep = !open_;
+    if (isOwnStep) {
+        open_.emplace(text);
+    }
+    const std::size_t mark = open_->size();
+    try {
+        edits();
+    } catch (...) {
+        open_->cancel(mark);
+        if (isOwnStep) {
+            open_.reset();
+        }
+        throw;
+    }
+    if (isOwnStep) {
+        finishStep();
+    }
+}
+
+} // namespace planner
