@@ -9,6 +9,7 @@
 #include "text/QORUnicodeString.h"
 
 #include <array>
+#include <cstdint>
 
 /// Vertex of the flow graph: one step of the flow, with what its model object contributes to the bill.
 ///
@@ -133,7 +134,7 @@ private:
         VXMFabFlowNode* further = nullptr;
         VXMFabFlowNode* loopEntry = nullptr;
         VXMFabFlowNode* beforeOnLoop = nullptr;
-        unsigned search = 0;
+        std::uint64_t search = 0;
     };
     FlowEndMemo _flowEnd;
     bool _isOnBackwardPath = false;

@@ -50,13 +50,14 @@ VXMFabMBOMNode* VXMFabSiblingIndex::FindAssignment(int iID, const VXMFabMBOMNode
         return nullptr;
     }
     chain.first = first;
-    if (_places.At(first) != iExcept) {
-        return _places.At(first);
+    int found = first;
+    while (_places.At(found) == iExcept) { // more than once only where it was entered more than once
+        _next[found] = SkipLeft(_next[found]);
+        if (_next[found] == kNoPlace) {
+            chain.last = found;
+            return nullptr;
+        }
+        found = _next[found];
     }
-    _next[first] = SkipLeft(_next[first]);
-    if (_next[first] == kNoPlace) {
-        chain.last = first;
-        return nullptr;
-    }
-    return _places.At(_next[first]);
+    return _places.At(found);
 }

@@ -10,6 +10,7 @@
 
 #include "nodes/VXMFabFlowNode.h"
 
+#include <cstdint>
 #include <vector>
 
 VXMFabFlowNode* VXMFlowEnds::First(const VXMFabFlowNode& iNode) {
@@ -31,7 +32,7 @@ VXMFabFlowNode* VXMFlowEnds::Find(VXMFabFlowNode* iNode) {
 
 /// Runs to the root of the node's tree, or to a node that knows its way into a loop.
 VXMFabFlowNode* VXMFlowEnds::RunAhead(VXMFabFlowNode& iNode) {
-    static unsigned search = 0;
+    static std::uint64_t search = 0;
     ++search;
     VXMFabFlowNode* node = &iNode;
     while (!node->_flowEnd.loopEntry) {
