@@ -1,0 +1,297 @@
+// The driver: settings and algorithm, when a bill is computed, what is left after a model that raises.
+
+#include "library/Bills.h"
+
+#include "framework/QORMetaClass.h"
+#include "framework/QORNullVarError.h"
+#include "generation/StrX.h"
+#include "generation/VXMHandleOrder.h"
+#include "model/VXMIMVWMBOMViewerSettingAtt.h"
+
+#include <array>
+
+using namespace testmodel;
+
+namespace {
+
+constexpr int kLeftAlone = -1;
+
+/// The settings component, registered for as long as this lives. It notes the order in which settings are read.
+class Settings {
+public:
+    Settings() { current_ = this; }
+    ~Settings() { current_ = nullptr; }
+    Settings(const Settings&) = delete;
+    Settings& operator=(const Settings&) = delete;
+
+    std::array<int, 13> values{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+    std::string read;
+
+private:
+    class Control final : public QORBaseUnknown {
+    public:
+        QORStatus QueryInterface(const QORInterfaceID& wanted, void** found) override {
+            return QORAnswer(wanted, found, tie_);
+        }
+        QORStatus GetShowAdhesiveCurve(int& value) const { return get(0, value); }
+        QORStatus GetShowAdhesivePoint(int& value) const { return get(1, value); }
+        QORStatus GetShowArcWeld(int& value) const { return get(2, value); }
+        QORStatus GetShowClinch(int& value) const { return get(3, value); }
+        QORStatus GetShowGlueBead(int& value) const { return get(4, value); }
+        QORStatus GetShowGlueDrop(int& value) const { return get(5, value); }
+        QORStatus GetShowRivet(int& value) const { return get(6, value); }
+        QORStatus GetShowSealantCurve(int& value) const { return get(7, value); }
+        QORStatus GetShowSealantPoint(int& value) const { return get(8, value); }
+        QORStatus GetShowScrew(int& value) const { return get(9, value); }
+        QORStatus GetShowSpotWeld(int& value) const { return get(10, value); }
+        QORStatus GetShowStud(int& value) const { return get(11, value); }
+        QORStatus GetShowAssignedFastenersOnly(int& value) const { return get(12, value); }
+
+    private:
+        static QORStatus get(std::size_t index, int& value) {
+            current_->read += " " + std::to_string(index);
+            if (current_->values[index] != kLeftAlone) {
+                value = current_->values[index];
+            }
+            return QOR_FAILED;
+        }
+        VXMIMVWMBOMViewerSettingAttTie<Control> tie_{this};
+    };
+
+    static QORBaseUnknown* create() { return new Control(); }
+
+    static inline Settings* current_ = nullptr;
+    QORMetaClass class_{"VXMMVWMBOMViewerSettingCtrl",
+                        Implementation,
+                        QORMetaClass::OfBaseUnknown(),
+                        "QORNull",
+                        "test",
+                        &Settings::create};
+};
+
+TEST(Settings, WithoutTheComponentAllAreOn) {
+    const VXMProcessBomGenerator generator(nullptr);
+    EXPECT_EQ(generator.GetFastenersShowMode(), 4095);
+    EXPECT_EQ(generator.GetAssignedFastenersShowMode(), 1);
+}
+
+TEST(Settings, AreReadOnceAndInOrder) {
+    Settings settings;
+    VXMProcessBomGenerator generator(nullptr);
+    generator.GetBom(1);
+    generator.GetBom(1);
+    EXPECT_EQ(settings.read, " 0 1 2 3 4 5 6 7 8 9 10 11 12");
+    EXPECT_EQ(generator.GetFastenersShowMode(), 4095);
+    EXPECT_EQ(generator.GetAssignedFastenersShowMode(), 1);
+}
+
+TEST(Settings, OnlyOneMeansOn) {
+    for (std::size_t index = 0; index < 13; ++index) {
+        for (const int value : {0, 2, kLeftAlone}) {
+            Settings settings;
+            settings.values[index] = value;
+            const VXMResourceBomGenerator generator(nullptr);
+            const bool on = value == kLeftAlone;
+            const int bit = index < 12 ? 1 << index : 0;
+            EXPECT_EQ(generator.GetFastenersShowMode(), on ? 4095 : 4095 - bit) << index << "=" << value;
+            EXPECT_EQ(generator.GetAssignedFastenersShowMode(), on || index < 12 ? 1 : 0) << index << "=" << value;
+        }
+    }
+}
+
+TEST(Settings, EachTypeHasItsSwitch) {
+    const char* const types[] = {"Adhesive Curve", "Adhesive Point", "Arc Weld",  "Clinch",
+                                 "Glue Bead",      "Glue Drop",      "Rivet",     "Sealant Curve",
+                                 "Sealant Point",  "Screw",          "Spot Weld", "Stud"};
+    for (std::size_t index = 0; index < 12; ++index) {
+        Settings settings;
+        settings.values.fill(0);
+        settings.values[index] = 1;
+        World world;
+        std::string drawing = "S1:";
+        for (std::size_t type = 0; type < 12; ++type) {
+            drawing += " *f" + std::to_string(type) + "{" + types[type] + "}?";
+        }
+        VXMProcessBomGenerator generator(handle(drawPlan(world, drawing + "| S2")));
+        EXPECT_EQ(bomText(generator.GetBom(0)), "*f" + std::to_string(index));
+    }
+}
+
+TEST(Algorithm, IsChosenByTheEnvironment) {
+    const std::pair<const char*, const char*> rows[] = {{nullptr, "O P"}, {"", "O P"},      {"1", "O P"},
+                                                        {"TRUE", "O(P)"}, {"true", "O(P)"}, {"tRuE", "O(P)"},
+                                                        {"TRUE ", "O P"}, {"FALSE", "O P"}};
+    World world;
+    const QORBaseUnknown_var root = handle(drawPlan(world, "S1: +P | S2: >O"));
+    for (const auto& [value, bom] : rows) {
+        const Environment environment("FAB_BOM_OLD_ALGORITHM", value);
+        VXMProcessBomGenerator generator(root);
+        {
+            const Environment later("FAB_BOM_OLD_ALGORITHM", "TRUE"); // is read at construction alone
+            EXPECT_EQ(bomText(generator.GetBom(0)), bom) << (value ? value : "(absent)");
+        }
+    }
+}
+
+TEST(GetBom, ComputesOnlyWhenItHasTo) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +P | S2: +Q")));
+    const DOM_Document first = generator.GetBom(1);
+    const int calls = world.calls.count;
+    EXPECT_GT(calls, 0);
+    EXPECT_EQ(generator.GetBom(0), first);
+    EXPECT_EQ(generator.GetBom(2), first);
+    EXPECT_EQ(world.calls.count, calls);
+    world["S1"].items[2]->clear();
+    const DOM_Document second = generator.GetBom(1);
+    EXPECT_FALSE(second == first);
+    EXPECT_EQ(world.calls.count, 2 * calls - 1); // one name less to ask for
+    EXPECT_EQ(bomText(first), "Q P");
+    EXPECT_EQ(bomText(second), "Q");
+    EXPECT_EQ(listText(generator.GetPreviewObjects()), "Q");
+}
+
+TEST(GetBom, AnyFlagComputesTheFirstTime) {
+    for (const int flag : {0, 1, 2, 255}) {
+        World world;
+        VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +P | S2")));
+        EXPECT_EQ(bomText(generator.GetBom(static_cast<unsigned char>(flag))), "P");
+    }
+}
+
+TEST(GetBom, ARebuiltBillForgetsEarlierRemovals) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: =P | S2: -P | S3: =P")));
+    EXPECT_EQ(bomText(generator.GetBom(0)), "P");
+    world["S2"].items[4]->clear();
+    EXPECT_EQ(bomText(generator.GetBom(1)), "");
+}
+
+TEST(GetBom, WithoutARootThatCanBeWalkedTheBillIsEmpty) {
+    World world;
+    const QORBaseUnknown_var stranger = handle(world.thing("X", kSpec));
+    const std::unique_ptr<VXMBomGenerator> generators[] = {
+        std::make_unique<VXMProcessBomGenerator>(nullptr), std::make_unique<VXMResourceBomGenerator>(nullptr),
+        std::make_unique<VXMProcessBomGenerator>(stranger), std::make_unique<VXMResourceBomGenerator>(stranger)};
+    for (const auto& generator : generators) {
+        for (const int flag : {0, 1, 0}) {
+            const DOM_Document document = generator->GetBom(static_cast<unsigned char>(flag));
+            EXPECT_TRUE(document.getDocumentElement().getNodeName().equals("BOM"));
+            EXPECT_EQ(bomText(document), "");
+            EXPECT_EQ(generator->GetPreviewObjects().Size(), 0);
+        }
+    }
+}
+
+TEST(GetBom, DocumentHandlesOutliveTheGenerator) {
+    World world;
+    DOM_Document document;
+    DOM_Node element;
+    {
+        VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +A(P) | S2")));
+        document = generator.GetBom(0);
+        element = DOM_Document(generator.GetBom(1)).getDocumentElement().getFirstChild();
+    }
+    EXPECT_EQ(bomText(document), "A(P)");
+    EXPECT_EQ(bomText(element), "P");
+}
+
+TEST(GetBom, GraphAndTreeStayUntilTheNextOne) {
+    World world;
+    Thing& root = drawPlan(world, "S1: +P | S2: -P +Q");
+    VXMProcessBomGenerator generator(handle(root));
+    generator.GetBom(0);
+    EXPECT_EQ(graphText(generator, world), "R=1<S2 S1=2>S2 S2=3<S1>R");
+    EXPECT_EQ(treeText(*generator.GetTopNode()), "1");
+    generator.FreeMN();
+    generator.FreeFN();
+    EXPECT_EQ(generator.CheckUse(handle(root)), nullptr);
+    EXPECT_EQ(generator.CheckUse(nullptr), nullptr);
+}
+
+struct RaisingRow {
+    const char* drawing;
+    Root kind;
+};
+
+const RaisingRow kRaising[] = {
+    {"S1: +A(P Q[X]) *w | S2@station { L@loading: +Y | M } | S3: -P >O[P A] =Y { T1, T2 } ; S3>S1", Root::Process},
+    {"R@resource: +A(P) ( C1@resource: *w >O[P] | C2@resource { A1: +Q | C3@resource: +X } )", Root::Resource},
+};
+
+class RaisingModel : public testing::TestWithParam<std::tuple<RaisingRow, Algorithm>> {};
+
+TEST_P(RaisingModel, LeavesTheLastSuccessInPlace) {
+    const auto& [row, algorithm] = GetParam();
+    World world;
+    const auto generator = makeGenerator(draw(world, row.kind, row.drawing), row.kind, algorithm);
+    const auto fresh = QORLivingObjects();
+    const DOM_Document document = generator->GetBom(0);
+    const std::string bom = bomText(document);
+    const std::string objects = listText(generator->GetPreviewObjects());
+    const int calls = world.calls.count;
+    EXPECT_NE(bom, "");
+    for (int turn = 1; turn <= calls; ++turn) {
+        world.calls.raiseAt = world.calls.count + turn;
+        EXPECT_THROW(generator->GetBom(1), std::runtime_error) << turn;
+        EXPECT_EQ(generator->GetBom(0), document);
+        EXPECT_EQ(bomText(document), bom);
+        EXPECT_EQ(listText(generator->GetPreviewObjects()), objects);
+        EXPECT_EQ(generator->GetTopNode(), nullptr);
+        auto left = QORLivingObjects();
+        EXPECT_EQ(left["DOM_Document"], 1);
+        left.erase("DOM_Document");
+        EXPECT_EQ(left, fresh) << turn;
+    }
+    EXPECT_EQ(bomText(generator->GetBom(1)), bom);
+    EXPECT_EQ(listText(generator->GetPreviewObjects()), objects);
+}
+
+TEST_P(RaisingModel, AtTheVeryFirstComputation) {
+    const auto& [row, algorithm] = GetParam();
+    World world;
+    Thing& root = draw(world, row.kind, row.drawing);
+    const std::string bom = bomText(makeGenerator(root, row.kind, algorithm)->GetBom(0));
+    const int calls = world.calls.count;
+    for (int turn = 1; turn <= calls; ++turn) {
+        const auto generator = makeGenerator(root, row.kind, algorithm);
+        world.calls.raiseAt = world.calls.count + turn;
+        EXPECT_THROW(generator->GetBom(0), std::runtime_error) << turn;
+        EXPECT_EQ(generator->GetPreviewObjects().Size(), 0);
+        EXPECT_EQ(bomText(generator->GetBom(0)), bom) << turn;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, RaisingModel,
+                         testing::Combine(testing::ValuesIn(kRaising),
+                                          testing::Values(Algorithm::Present, Algorithm::Older)));
+
+TEST(HandleOrder, GoesByTheImplementations) {
+    World world;
+    Thing& first = world.thing("A", kItem | kProduct);
+    Thing& second = world.thing("B", kItem);
+    const QORBaseUnknown_var a = handle(first);
+    const QORBaseUnknown_var b = handle(second);
+    EXPECT_EQ(a < b, std::less<>()(static_cast<QORBaseUnknown*>(&first), static_cast<QORBaseUnknown*>(&second)));
+    EXPECT_NE(a < b, b < a);
+    const QORISPPItem_var asItem(a);
+    const QORBaseUnknown_var through(static_cast<QORBaseUnknown*>(asItem.Get()));
+    EXPECT_FALSE(a < through);
+    EXPECT_FALSE(through < a);
+    const QORBaseUnknown_var none;
+    EXPECT_THROW((void)(a < none), QORNullVarError);
+    EXPECT_THROW((void)(none < a), QORNullVarError);
+    EXPECT_THROW((void)(none < none), QORNullVarError);
+}
+
+TEST(StrX, GivesNarrowTextOfTheDocumentsTexts) {
+    for (const char* text : {"", "plain", "T\xC3\xBCr \xE2\x82\xAC \xF0\x9F\x94\xA9"}) {
+        const DOMString wide(text);
+        EXPECT_STREQ(StrX(wide).localForm(), text);
+        const StrX narrow(wide.rawBuffer());
+        EXPECT_STREQ(static_cast<const char*>(narrow), text);
+    }
+    EXPECT_EQ(StrX(static_cast<const unsigned short*>(nullptr)).localForm(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,224 @@
+// What the trace says, to the letter.
+
+#include "library/Bills.h"
+
+#include "nodes/VXMFabProcessFlowNode.h"
+
+#include <gmock/gmock.h>
+
+using namespace testmodel;
+
+namespace {
+
+/// Lines of a text from the first one that is `from` on.
+std::string linesFrom(const std::string& text, const std::string& from) {
+    const std::size_t begin = ("\n" + text).find("\n" + from + "\n");
+    return begin == std::string::npos ? "(no such line)" : text.substr(begin);
+}
+
+/// Only the lines of the walk itself, without dumps and nodes.
+std::string walkLines(const std::string& text) {
+    std::string lines;
+    std::size_t begin = 0;
+    for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', begin)) {
+        const std::string line = text.substr(begin, end - begin);
+        for (const char* label : {"Name: ", "Type: ", "Predecessor: ", "Successor: ", "**"}) {
+            lines += line.starts_with(label) ? line + "\n" : "";
+        }
+        begin = end + 1;
+    }
+    return lines;
+}
+
+// Pieces of the walk of a nested plan, whose nodes are numbered in this order and bear the same identity numbers.
+const char* const kNames[] = {"R", "A1", "A2", "B1", "B2"};
+
+/// What a new node says.
+std::string made(int number) {
+    const std::string digit = std::to_string(number);
+    return "FAB_BOM_NO_FASTENERS is NOT set to TRUE: fasteners are displayed in MBOM\nNumber: " + digit +
+           "ID: " + digit + "Name " + kNames[number - 1] + "\n";
+}
+
+/// The dump of as many nodes as there are texts of their links.
+std::string dump(const std::vector<std::string>& links) {
+    std::string names;
+    std::string lines = "Flow: Node Number (N), Predecessor (P) und Successors (S)\n";
+    for (std::size_t index = 0; index < links.size(); ++index) {
+        const std::string digit = std::to_string(index + 1);
+        names += "Number: " + digit + " Name: " + kNames[index] + "\n";
+        lines += "N: " + digit + links[index] + " *\n";
+    }
+    return names + lines;
+}
+
+TEST(Trace, IsSilentUntilItIsSwitchedOn) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +P | S2")));
+    testing::internal::CaptureStderr();
+    generator.GetBom(1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(Trace, WalkOfANestedPlan) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "A1 | A2 { B1 | B2 }")));
+    const TraceCapture trace;
+    generator.MainCheckFlow();
+    std::string expected = made(1) + dump({""}) + "Name: A1\nType: Activity\n";
+    expected += made(2) + dump({"", ""}) + dump({"", ""}) + dump({"", ""}) + "Name: A2\n";
+    expected += made(3) + dump({"", "", ""}) + "Name: B1\nType: Activity\n";
+    expected += made(4) + dump({"", "", "", ""}) + dump({"", "", "", ""}) + "Predecessor: A1\nSuccessor: B1\n";
+    expected += dump({"", " S  4", "", " P  2"}) + "Name: B2\n";
+    expected += made(5) + dump({"", " S  4", "", " P  2", ""}) + dump({"", " S  4", "", " P  2", ""});
+    expected += "Predecessor: B1\nSuccessor: B2\n";
+    expected += dump({"", " S  4", "", " P  2 S  5", " P  4"}) + "Name: B2\nType: Activity\n";
+    expected += dump({"", " S  4", "", " P  2 S  5", " P  4"}) + "Predecessor: B2\nSuccessor: A2\n";
+    expected += dump({"", " S  4", " P  5", " P  2 S  5", " P  4 S  3"}) + "Name: A2\nType: Activity\n";
+    expected += dump({"", " S  4", " P  5", " P  2 S  5", " P  4 S  3"}) + "Predecessor: A2\nSuccessor: R\n";
+    expected += dump({" P  3", " S  4", " P  5 S  1", " P  2 S  5", " P  4 S  3"});
+    expected += dump({" P  3", " S  4", " P  5 S  1", " P  2 S  5", " P  4 S  3"});
+    expected += "Number 1P1: 3 *\nNumber 2S1: 4 *\nNumber 3P1: 5S1: 1 *\nNumber 4P1: 2S1: 5 *\nNumber 5P1: 4S1: 3 *\n";
+    EXPECT_EQ(trace.text(), expected);
+}
+
+TEST(Trace, SecondArrivalIsMarked) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "A | B, C@logical ; A>C C>B")));
+    const TraceCapture trace;
+    generator.MainCheckFlow();
+    EXPECT_EQ(walkLines(trace.text()), R"(Name: A
+Type: Activity
+Name: B
+Predecessor: A
+Successor: B
+Name: C
+Predecessor: A
+Successor: C
+Name: B
+**Predecessor: C
+**Successor: B
+Name: B
+Type: Activity
+Name: C
+Type: logical
+Predecessor: B
+Successor: R
+)");
+}
+
+TEST(Trace, ResourcesHaveNoNameLines) {
+    World world;
+    VXMResourceBomGenerator generator(handle(drawResource(world, "R@resource { A1 | C1@resource ( C2@resource ) }")));
+    const TraceCapture trace;
+    generator.MainCheckFlow();
+    EXPECT_EQ(walkLines(trace.text()), R"(Name: A1
+Type: Activity
+Predecessor: A1
+Successor: C1
+Predecessor: C1
+Successor: R
+)");
+}
+
+TEST(Trace, DumpsOfTheTree) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +P *w | S2: -P >A(Q)")));
+    const TraceCapture trace;
+    generator.GetBom(0);
+    std::string expected = R"(--> VXMBomGenerator::CreateMBOM 
+--> VXMBomGenerator::CreateMBOM 
+Number: 1ID: 6Name A
+Number: 3ID: 7Name Q
+Number: 3ID: 3Name P
+--> VXMBomGenerator::CreateMBOM 
+Number: 4ID: 3Name P
+Number: 5ID: 4Name w
+--- TRACE 1 ---
+--- 0--- 
+N 0 TOPNODE
+--- 1--- 
+N 4 P
+--- 2--- 
+--- 3--- 
+N 3 P
+--- 4--- 
+N 1 A
+N 3 Q
+--- TRACE 2 ---
+
+--- 0--- 
+N 0 S 1 S 3 S 4 S 5 *
+--- 1--- 
+N 4 P 0 *
+--- 2--- 
+--- 3--- 
+N 3 P 0 *
+--- 4--- 
+N 1 P 0 S 3 *
+N 3 P 1 *
+)";
+    for (int pass = 1; pass <= 3; ++pass) { // the first one pairs P, the others find nothing
+        expected += R"(--- TRACE 2 ---
+
+--- 0--- 
+N 0 S 1 S 5 *
+--- 1--- 
+--- 2--- 
+--- 3--- 
+--- 4--- 
+N 1 P 0 S 3 *
+N 3 P 1 *
+)";
+    }
+    EXPECT_EQ(linesFrom(trace.text(), "--> VXMBomGenerator::CreateMBOM "), expected);
+}
+
+TEST(Trace, EntryMarksOfTheOlderAlgorithm) {
+    World world;
+    const auto generator = makeGenerator(drawPlan(world, "S1: >O | S2"), Root::Process, Algorithm::Older);
+    const TraceCapture trace;
+    generator->GetBom(0);
+    EXPECT_THAT(linesFrom(trace.text(), "--> VXMBomGenerator::CreateOldMBOM "),
+                testing::StartsWith("--> VXMBomGenerator::CreateOldMBOM \n"
+                                    "--> VXMBomGenerator::CreateOldMBOM \n"
+                                    "--> VXMBomGenerator::CreateOldMBOM \n"
+                                    "Number: 1ID: 3Name O\n"
+                                    "--- TRACE 1 ---\n"));
+}
+
+TEST(Trace, ANullFlowNodeIsMarkedAllTheSame) {
+    VXMProcessBomGenerator generator(nullptr);
+    const TraceCapture trace;
+    generator.CreateMBOM(nullptr, nullptr, 1);
+    generator.CreateOldMBOM(nullptr, nullptr, 1);
+    EXPECT_EQ(trace.text(), "--> VXMBomGenerator::CreateMBOM \n--> VXMBomGenerator::CreateOldMBOM \n");
+}
+
+TEST(Trace, ARegisteredNullNodeIsPassedOver) {
+    World world;
+    VXMResourceBomGenerator generator(handle(drawResource(world, "R@resource ( C1@resource | C2@resource )")));
+    World::link(world["C1"], world.thing("X", kItem));
+    const TraceCapture trace;
+    generator.MainCheckFlow();
+    EXPECT_EQ(linesFrom(trace.text(), "Number 1P1: 2 *"), "Number 1P1: 2 *\nNumber 2S1: 3S2: 1 *\nNumber 3P1: 2 *\n");
+}
+
+TEST(Trace, FastenersAreWrittenBeforeTheyAreFiltered) {
+    World world;
+    drawPlan(world, "A: *w? *v{Nail} *x");
+    world["x"].answers = kFastener;
+    const TraceCapture trace;
+    const VXMFabProcessFlowNode node(QORISPPAbstractActivity_var(handle(world["A"])), 0, 4, 4095, 1);
+    const VXMFabProcessFlowNode silent(QORISPPAbstractActivity_var(handle(world["A"])), 0, 5, 0, 1);
+    EXPECT_EQ(trace.text(), R"(FAB_BOM_NO_FASTENERS is NOT set to TRUE: fasteners are displayed in MBOM
+processType of weld: 
+Rivet
+processType of weld: 
+Nail
+Number: 4ID: 2Name A
+Number: 5ID: 2Name A
+)");
+}
+
+} // namespace
