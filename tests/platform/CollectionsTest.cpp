@@ -105,7 +105,7 @@ TEST(TextList, FindsTheSameWithAndWithoutItsIndex) {
         case 2:
         case 3: {
             const int from = random() % 2 == 0 ? 1 : position;
-            const auto begin = model.begin() + std::min<std::size_t>(from - 1, model.size());
+            const auto begin = model.begin() + std::min(from - 1, static_cast<int>(model.size()));
             const auto place = std::find(begin, model.end(), text);
             const int expected = place == model.end() ? 0 : static_cast<int>(place - model.begin()) + 1;
             ASSERT_EQ(list.Locate(QORUnicodeString(text), from), expected) << "step " << step;

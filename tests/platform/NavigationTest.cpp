@@ -257,7 +257,7 @@ public:
     using Leaf::Leaf;
     QORStatus QueryInterface(const QORInterfaceID& interface, void** out) override {
         const QORStatus own = QORAnswer(interface, out, tie_);
-        return own < 0 ? QORBaseUnknown::QueryInterface(interface, out) : own;
+        return own < 0 ? Leaf::QueryInterface(interface, out) : own;
     }
     QORListValQORBaseUnknown_var* GetChildren() {
         auto children = std::make_unique<QORListValQORBaseUnknown_var>();
@@ -433,7 +433,7 @@ public:
     Wide(int children, int levels) : Leaf("W"), children_(children), levels_(levels) {}
     QORStatus QueryInterface(const QORInterfaceID& interface, void** out) override {
         const QORStatus own = QORAnswer(interface, out, tie_);
-        return own < 0 ? QORBaseUnknown::QueryInterface(interface, out) : own;
+        return own < 0 ? Leaf::QueryInterface(interface, out) : own;
     }
     QORListValQORBaseUnknown_var* GetChildren() {
         auto children = std::make_unique<QORListValQORBaseUnknown_var>();
