@@ -1,0 +1,58 @@
+#include "PlanText.h"
+
+#include "planner/file/PlanWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+namespace plantext {
+
+std::unique_ptr<planner::Plan> read(const std::string& text) {
+    planner::ReadResult result = planner::parsePlan(text, "p", "title");
+    for (const std::string& error : result.errors) {
+        ADD_FAILURE() << error;
+    }
+    return std::move(result.plan);
+}
+
+std::string faultsOf(const std::string& text) {
+    std::string lines;
+    for (const std::string& error : planner::parsePlan(text, "p", "title").errors) {
+        lines += error + '\n';
+    }
+    return lines;
+}
+
+std::string written(const planner::Plan& plan) {
+    const std::string path = makeFile("written", "");
+    EXPECT_EQ(planner::writePlanFile(plan, path), std::nullopt);
+    return contentOf(path);
+}
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+std::string makeFile(const std::string& name, const std::string& content) {
+    // Test programs run side by side, each test in a process of its own.
+    const std::string path = testing::TempDir() + "planner-" + std::to_string(::getpid()) + '-' + name;
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+std::string repeated(const std::string& text, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+} // namespace plantext

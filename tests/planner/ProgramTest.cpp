@@ -1,0 +1,240 @@
+// The program from outside: exit status, standard output, standard error.
+
+#include "PlanText.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/wait.h>
+
+using namespace plantext;
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string output;
+    std::string errors;
+};
+
+/// Runs the program in a shell; in the arguments, % stands for the file that holds the plan. What stands in front of a
+/// bar gives standard input.
+Outcome run(const std::string& arguments, const std::string& plan = "") {
+    const std::string planFile = makeFile("plan", plan);
+    const std::string output = makeFile("output", "");
+    const std::string errors = makeFile("errors", "");
+    const std::size_t bar = arguments.find("| ");
+    std::string command = arguments;
+    command.insert(bar == std::string::npos ? 0 : bar + 2, PLANNER_PROGRAM " ");
+    for (std::size_t at = command.find('%'); at != std::string::npos; at = command.find('%', at)) {
+        command.replace(at, 1, planFile);
+    }
+    // The braces let the arguments redirect for themselves.
+    const int status = std::system(("{ " + command + "; } >" + output + " 2>" + errors).c_str());
+    std::string told = contentOf(errors);
+    for (std::size_t at = told.find(planFile); at != std::string::npos; at = told.find(planFile, at)) {
+        told.replace(at, planFile.size(), "%");
+    }
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(output), told};
+}
+
+constexpr const char* kPlan = R"({"version": 1, "plan": "Plan",
+  "items": [{"id": "p", "kind": "product", "name": "P"}, {"id": "q", "kind": "product"},
+            {"id": "rivet", "kind": "fastener", "type": "Rivet"},
+            {"id": "weld", "kind": "fastener", "type": "Spot Weld", "assigned": false}],
+  "process": {"id": "line", "name": "Line", "children": [
+    {"id": "a", "first_assigned": ["p", "q"]}, {"id": "b", "removed": ["q"], "items": ["rivet", "weld"]},
+    {"id": "node", "kind": "logical"}]},
+  "resources": [{"id": "robot", "behaviour": {"id": "does", "outputs": ["q"]}}],
+  "links": [["a", "b"]]})";
+
+struct Case {
+    const char* name;
+    const char* arguments;
+    const char* text; ///< expected on standard output where the run is good, else on standard error
+};
+
+void PrintTo(const Case& each, std::ostream* stream) {
+    *stream << each.name;
+}
+
+std::string nameOf(const testing::TestParamInfo<Case>& info) {
+    return info.param.name;
+}
+
+class GoodRun : public testing::TestWithParam<Case> {};
+
+TEST_P(GoodRun, PrintsAndGivesZero) {
+    const Outcome ran = run(GetParam().arguments, kPlan);
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.output, GetParam().text);
+    EXPECT_EQ(ran.errors, "");
+}
+
+const Case kGood[] = {
+    {"Tree", "bom %", "Line\n  rivet (fastener, Rivet)\n  P (product)\nTotal: 2 elements: 1 product, 1 fastener\n"},
+    {"StandardInput", "bom --format csv - <%",
+     "\xEF\xBB\xBFlevel,tag,name,object\r\n1,BOMFastener,rivet,rivet\r\n1,BOMNode,P,p\r\n"},
+    {"RootActivity", "bom % --root a", "a\n  P (product)\n  q (product)\nTotal: 2 elements: 2 products\n"},
+    {"RootResource", "bom % --root robot", "robot\n  q (product)\nTotal: 1 element: 1 product\n"},
+    {"Legacy", "bom % --legacy --root robot", "robot\n  q (product)\nTotal: 1 element: 1 product\n"},
+    {"NoFasteners", "bom % --fasteners none", "Line\n  P (product)\nTotal: 1 element: 1 product\n"},
+    {"SomeFasteners", "bom % --fasteners stud,spot-weld --unassigned-fasteners",
+     "Line\n  weld (fastener, Spot Weld)\n  P (product)\nTotal: 2 elements: 1 product, 1 fastener\n"},
+    {"FmtOfStandardInput", "echo '{\"version\":1}' | fmt -", "{\n  \"version\": 1\n}\n"},
+    {"Version", "--version", "planner 1.0.0\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Program, GoodRun, testing::ValuesIn(kGood), nameOf);
+
+class BadRun : public testing::TestWithParam<Case> {};
+
+TEST_P(BadRun, SaysWhyAndGivesTwo) {
+    const Outcome ran = run(GetParam().arguments, kPlan);
+    EXPECT_EQ(ran.status, 2);
+    EXPECT_EQ(ran.output, "");
+    EXPECT_NE(ran.errors.find(GetParam().text), std::string::npos) << ran.errors;
+    EXPECT_EQ(ran.errors.find('\n'), ran.errors.size() - 1) << ran.errors;
+}
+
+const Case kBad[] = {
+    {"NoCommand", "", "planner: A subcommand is required"},
+    {"UnknownCommand", "bim %", "planner: "},
+    {"UnknownOption", "bom % --loud", "planner: The following argument was not expected: --loud"},
+    {"NoPlan", "bom", "planner: PLAN is required"},
+    {"UnknownFormat", "bom % --format yaml", "planner: --format: yaml not in {tree,xml,json,csv}"},
+    {"UnknownFastener", "bom % --fasteners Rivet,Weld", "planner: --fasteners names \"Weld\"; expected all, none"},
+    {"NoFastenerName", "bom % --fasteners Rivet,", "planner: --fasteners names \"\"; expected"},
+    {"UnknownRoot", "bom % --root x", "planner: --root names \"x\", which is not in %; expected the id of an activity"},
+    {"ItemAsRoot", "bom % --root p", "planner: --root names \"p\", which is an item; expected"},
+    {"BehaviourAsRoot", "bom % --root does", "planner: --root names \"does\", which is a behaviour; expected"},
+    {"LogicalRoot", "bom % --root node", "planner: --root names \"node\", which is a logical node; expected"},
+    {"EmptyRoot", "bom % --root ''", "planner: --root names \"\", which is not in %"},
+    {"MissingFile", "bom %.none", "%.none: can't be read: No such file or directory"},
+    {"Directory", "bom /", "/: is a directory; expected a plan file"},
+    {"EmptyFile", "fmt /dev/null", "/dev/null: is empty; expected a JSON object with the plan"},
+    {"FaultyPlan", "echo '{}' | bom -", "standard input:1:1: \"version\" is missing; expected 1"},
+    {"FullOutput", "bom % >/dev/full", "planner: standard output can't be written: No space left on device"},
+    {"ClosedOutput", "bom % >&-", "planner: standard output can't be written: Bad file descriptor"},
+    {"ClosedOutputOfHelp", "--help >&-", "planner: standard output can't be written: Bad file descriptor"},
+    {"ClosedInput", "bom - <&-", "standard input: can't be read: Bad file descriptor"},
+    {"FullFile", "fmt % -o /dev/full", "planner: /dev/full can't be written: No space left on device"},
+    {"FullTrace", "bom % --trace /dev/full", "planner: the trace can't be written to /dev/full"},
+    {"TraceNowhere", "bom % --trace /none/t", "planner: the trace can't be written to /none/t: No such file"},
+    {"TraceOverThePlan", "bom % --trace %", "planner: --trace names the plan itself"},
+};
+INSTANTIATE_TEST_SUITE_P(Program, BadRun, testing::ValuesIn(kBad), nameOf);
+
+class Remark : public testing::TestWithParam<std::array<const char*, 3>> {};
+
+/// Plans of which the bill is no surprise only to who knows the rules: one line says why.
+TEST_P(Remark, IsOneLineAndNoError) {
+    const auto& [name, process, remark] = GetParam();
+    const Outcome ran = run("bom %", std::string(R"({"version": 1, "items": [{"id": "p", "kind": "product"},)") +
+                                         R"({"id": "f", "kind": "fastener", "type": "Bolt"}], )" + process + "}");
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.errors, remark) << name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Program, Remark,
+    testing::Values(
+        std::array{"NothingListed", R"("process": {"id": "r"})", ""},
+        std::array{"LoneStep", R"("process": {"id": "r", "children": [{"id": "a", "first_assigned": ["p"]}]})",
+                   "planner: the bill is empty: 1 of 1 steps lies on no path of links to the end of the plan: \"a\"\n"},
+        std::array{
+            "LostBranch",
+            R"("process": {"id": "r", "outputs": ["p"], "children": [{"id": "a"}, {"id": "b"}, {"id": "c"}]},)"
+            R"("links": [["a", "b"], ["a", "c"]])",
+            "planner: 1 of 3 steps lies on no path of links to the end of the plan and adds nothing to the bill: "
+            "\"b\"\n"},
+        std::array{"ManyLost",
+                   R"("process": {"id": "r", "outputs": ["p"], "children": [{"id": "a"}, {"id": "b"}, {"id": "c"},)"
+                   R"({"id": "d"}, {"id": "n", "kind": "logical"}]})",
+                   "planner: 4 of 4 steps lie on no path of links to the end of the plan and add nothing to the bill: "
+                   "\"a\", \"b\", \"c\" and 1 more\n"},
+        std::array{"TakenOutAgain", R"("process": {"id": "r", "first_assigned": ["p"], "removed": ["p"]})",
+                   "planner: the bill is empty: whatever comes in is taken out again\n"},
+        std::array{"OnlyWorkedOn", R"("process": {"id": "r", "assigned": ["p"]})",
+                   "planner: the bill is empty: its steps only work on items or remove them, and none brings one in\n"},
+        std::array{"HiddenFastener", R"("process": {"id": "r", "items": ["f"]})",
+                   "planner: the bill is empty: its steps bring in no product, and no fastener that they list is "
+                   "shown\n"},
+        std::array{"InAStation",
+                   R"("process": {"id": "r", "kind": "station", "children": [{"id": "a", "outputs": ["p"]},)"
+                   R"({"id": "b"}]}, "links": [["a", "b"]])",
+                   "planner: the bill is empty: inside a station only what loading steps assign first counts\n"}),
+    [](const auto& each) { return std::string(each.param[0]); });
+
+TEST(Trace, GoesToItsFileAndIsOffOtherwise) {
+    const std::string file = makeFile("trace", "");
+    const Outcome ran = run("bom % --trace " + file, kPlan);
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.errors, "");
+    EXPECT_NE(contentOf(file).find("--> VXMBomGenerator::CreateMBOM "), std::string::npos);
+    const Outcome onErrors = run("bom % --trace -", kPlan);
+    EXPECT_EQ(onErrors.output, ran.output);
+    EXPECT_NE(onErrors.errors.find("--- TRACE 1 ---"), std::string::npos);
+}
+
+TEST(Trace, OfALargePlanIsWarnedOf) {
+    std::string steps;
+    for (int i = 0; i < 2000; ++i) {
+        steps += (i > 0 ? ",{\"id\":\"a" : "{\"id\":\"a") + std::to_string(i) + "\"}";
+    }
+    const Outcome ran =
+        run("bom % --trace /dev/null", R"({"version":1,"process":{"id":"r","children":[)" + steps + "]}}");
+    EXPECT_EQ(ran.errors.find("planner: a trace of 2001 activities is long"), 0U) << ran.errors;
+}
+
+TEST(Fmt, WritesInPlaceAndStaysAtThat) {
+    const std::string file = makeFile("inplace", kPlan);
+    EXPECT_EQ(run("fmt " + file + " -o " + file).status, 0);
+    const std::string once = contentOf(file);
+    EXPECT_EQ(run("fmt " + file).output, once);
+    EXPECT_EQ(run("fmt " + file + " -o " + file).status, 0);
+    EXPECT_EQ(contentOf(file), once);
+}
+
+TEST(Fmt, LeavesTheFileAloneWhenThePlanIsFaulty) {
+    const std::string file = makeFile("alone", "old");
+    EXPECT_EQ(run("fmt % -o " + file, "{}").status, 2);
+    EXPECT_EQ(contentOf(file), "old");
+}
+
+TEST(Deep, StructuresPassThroughEveryFormat) {
+    std::string items = "{\"id\":\"p0\",\"kind\":\"product\"}";
+    for (int i = 1; i <= 60000; ++i) {
+        items += ",{\"id\":\"p" + std::to_string(i) + "\",\"kind\":\"product\",\"children\":[\"p" +
+                 std::to_string(i - 1) + "\"]}";
+    }
+    const std::string plan =
+        R"({"version":1,"items":[)" + items + R"(],"process":{"id":"r","first_assigned":["p60000"]}})";
+    for (const char* format : {"tree", "xml", "json", "csv"}) {
+        const Outcome ran = run("bom % --format " + std::string(format), plan);
+        EXPECT_EQ(ran.status, 0) << format << ran.errors;
+        EXPECT_GT(ran.output.size(), 1000000U) << format;
+    }
+}
+
+TEST(Examples, HaveBillsAndAreInStandardForm) {
+    const struct {
+        const char* arguments;
+        const char* total;
+    } cases[] = {{"door-line.plan.json", "Total: 60 elements: 29 products, 6 assemblies, 25 fasteners\n"},
+                 {"removal.plan.json", "Total: 1 element: 1 product\n"},
+                 {"reuse.plan.json", "Total: 3 elements: 2 products, 1 fastener\n"},
+                 {"structure.plan.json", "Total: 7 elements: 5 products, 2 assemblies\n"},
+                 {"robot-cell.plan.json --root cell", "Total: 8 elements: 4 products, 2 assemblies, 2 fasteners\n"}};
+    for (const auto& each : cases) {
+        const std::string arguments = std::string(EXAMPLES) + '/' + each.arguments;
+        const Outcome ran = run("bom " + arguments);
+        EXPECT_EQ(ran.errors, "") << arguments;
+        EXPECT_EQ(ran.output.substr(ran.output.find("Total")), each.total) << arguments;
+        const std::string file = arguments.substr(0, arguments.find(' '));
+        EXPECT_EQ(run("fmt " + file).output, contentOf(file));
+    }
+}
+
+} // namespace
