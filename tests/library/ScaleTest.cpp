@@ -1,0 +1,194 @@
+// Size and depth: cost grows with what is made, and neither the thread's stack nor a chain of neighbours bounds it.
+
+#include "library/Bills.h"
+
+#include <chrono>
+
+using namespace testmodel;
+
+namespace {
+
+constexpr int kMany = 200000;
+constexpr int kDeep = 100000;
+constexpr std::chrono::seconds kBound(60); // far above what is needed, far below what squares of these numbers need
+
+std::string named(const char* prefix, int index) {
+    return prefix + std::to_string(index);
+}
+
+/// Steps in a chain, each of which first-assigns a product of its own.
+std::vector<Thing*> chain(World& world, Thing& parent, int count) {
+    std::vector<Thing*> steps;
+    for (int index = 1; index <= count; ++index) {
+        Thing& step = world.thing(named("S", index), kStep);
+        step.parent = &parent;
+        step.items[2] = Things{&world.thing(named("P", index), kItem)};
+        if (!steps.empty()) {
+            World::link(*steps.back(), step);
+        }
+        steps.push_back(&step);
+    }
+    return steps;
+}
+
+Thing& chainPlan(World& world, int count) {
+    Thing& root = world.thing("R", kStep);
+    root.children = chain(world, root, count);
+    return root;
+}
+
+int countElements(const DOM_Document& document) {
+    const DOM_Node top = document.getDocumentElement();
+    int count = 0;
+    DOM_Node node = top;
+    while (true) {
+        DOM_Node next = node.getFirstChild();
+        while (next.isNull() && !(node == top)) {
+            next = node.getNextSibling();
+            if (next.isNull()) {
+                node = node.getParentNode();
+            }
+        }
+        if (next.isNull()) {
+            return count;
+        }
+        node = next;
+        ++count;
+    }
+}
+
+void expectElements(Thing& root, int expected, Root kind = Root::Process, Algorithm algorithm = Algorithm::Present) {
+    const auto begin = std::chrono::steady_clock::now();
+    {
+        const auto generator = makeGenerator(root, kind, algorithm);
+        EXPECT_EQ(countElements(generator->GetBom(0)), expected);
+        EXPECT_EQ(generator->GetPreviewObjects().Size(), expected);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, kBound);
+}
+
+TEST(Scale, ChainOfSteps) {
+    World world;
+    expectElements(chainPlan(world, kMany), kMany);
+}
+
+TEST(Scale, EveryProductRemovedAndAssignedAgain) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    const Things& steps = *root.children;
+    for (std::size_t index = 0; index + 2 < steps.size(); ++index) {
+        Thing* const product = steps[index]->items[2]->front();
+        steps[index + 1]->items[4]->push_back(product);
+        steps[index + 2]->items[2]->push_back(product);
+    }
+    expectElements(root, kMany);
+}
+
+TEST(Scale, EveryStepIsLinkedToOneThatLeadsNowhere) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    Thing& nowhere = world.thing("nowhere", kStep);
+    const Things& steps = *root.children;
+    for (std::size_t index = 0; index + 1 < steps.size(); ++index) {
+        World::link(*steps[index], nowhere);
+    }
+    expectElements(root, kMany);
+}
+
+TEST(Scale, StepsNestedInEachOther) {
+    World world;
+    Thing& root = world.thing("R", kStep);
+    Things steps = chain(world, root, kMany);
+    root.children = Things{steps[0], steps[1]};
+    for (std::size_t index = 1; index < steps.size(); ++index) {
+        steps[index]->predecessors.clear();
+        steps[index]->successors.clear();
+        if (index > 1) {
+            steps[index]->parent = steps[index - 1];
+            steps[index - 1]->children = Things{steps[index]};
+        }
+    }
+    World::link(*steps[0], *steps[1]);
+    steps[0]->successors = Things{steps[1]};
+    expectElements(root, kMany);
+}
+
+TEST(Scale, WideStructure) {
+    World world;
+    Thing& root = drawPlan(world, "S1: +A() | S2");
+    for (int index = 1; index <= kMany; ++index) {
+        world["A"].parts->push_back(&world.thing(named("P", index), kItem | kProduct));
+    }
+    expectElements(root, kMany + 1);
+}
+
+void nest(World& world, MaybeThings Thing::*list, unsigned answers) {
+    Thing* above = &world["A"];
+    for (int index = 2; index <= kDeep; ++index) {
+        Thing& part = world.thing(named("P", index), kItem | answers);
+        above->*list = Things{&part};
+        above = &part;
+    }
+}
+
+TEST(Scale, DeepProducts) {
+    World world;
+    Thing& root = drawPlan(world, "S1: +A() | S2: -A | S3: =A");
+    nest(world, &Thing::parts, kProduct);
+    expectElements(root, kDeep);
+}
+
+TEST(Scale, DeepAssemblies) {
+    World world;
+    Thing& root = drawPlan(world, "S1: +A[] | S2");
+    nest(world, &Thing::held, kAssembly);
+    expectElements(root, kDeep);
+    expectElements(root, kDeep, Root::Process, Algorithm::Older);
+}
+
+TEST(Scale, OutputsNestedByTheOlderAlgorithm) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    for (Thing* step : *root.children) {
+        Thing* const product = step->items[2]->front();
+        step->items[2]->clear();
+        world.putOut(*step, product);
+    }
+    expectElements(root, kMany, Root::Process, Algorithm::Older);
+}
+
+TEST(Scale, ChainOfResources) {
+    World world;
+    Thing& root = world.thing("R", kResource);
+    world.behaviourOf(root);
+    root.parts = Things();
+    for (int index = 1; index <= kMany; ++index) {
+        Thing& resource = world.thing(named("C", index), kResource);
+        world.behaviourOf(resource).assignedItems = Things{&world.thing(named("P", index), kItem)};
+        if (!root.parts->empty()) {
+            World::link(*root.parts->back(), resource);
+        }
+        root.parts->push_back(&resource);
+    }
+    expectElements(root, kMany, Root::Resource);
+}
+
+TEST(Scale, ChainListedBackwards) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    root.children = Things(root.children->rbegin(), root.children->rend());
+    expectElements(root, kMany);
+}
+
+TEST(Scale, AModelThatRaisesAtTheDeepestPlace) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    auto& items = root.children->back()->items;
+    items.erase(2);
+    VXMProcessBomGenerator generator(handle(root));
+    EXPECT_THROW(generator.GetBom(0), std::out_of_range);
+    items[2] = Things();
+    EXPECT_EQ(countElements(generator.GetBom(0)), kMany - 1);
+}
+
+} // namespace

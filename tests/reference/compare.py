@@ -1,0 +1,204 @@
+"""Holds the planner against the reference on random plans: the bill, and the trace byte for byte.
+
+    python3 compare.py --planner PATH --plans N --seed S [--legacy] [--resources] [--keep DIR]
+
+Prints one line when all runs are equal; else the first few differences, and exits with 1. With --keep the
+plans that differ are written to DIR.
+"""
+
+import argparse
+import itertools
+import json
+import os
+import random
+import subprocess
+import sys
+import tempfile
+from dataclasses import dataclass
+
+from bom_reference import analyse
+from flow_nodes import FASTENER_TYPES, Settings, WorkLimitError, fastener_types
+from plan_model import Plan, Resource, cast
+from random_plans import make_plan
+
+WORK_LIMIT = 1500
+DIFFERENCES_SHOWN = 3
+RUN_SECONDS = 60
+
+
+@dataclass
+class Case:
+    """One run: a root of a plan and the options that both sides get."""
+
+    root: str
+    fasteners: str
+    unassigned_fasteners: bool
+    legacy: bool
+
+    def settings(self):
+        return Settings(fastener_types(self.fasteners), not self.unassigned_fasteners, self.legacy)
+
+    def arguments(self):
+        arguments = ["--root", self.root] if self.root else []
+        if self.fasteners != "all":
+            arguments += ["--fasteners", self.fasteners]
+        if self.unassigned_fasteners:
+            arguments.append("--unassigned-fasteners")
+        return arguments + (["--legacy"] if self.legacy else [])
+
+
+@dataclass
+class Outcome:
+    """What one side made of a run; `failure` is empty when it ran well."""
+
+    bom: object = None
+    trace: str = ""
+    failure: str = ""
+
+
+class Planner:
+    """Runs the program under test on plan files in a folder of its own."""
+
+    def __init__(self, path, folder):
+        self.path = path
+        self.plan_file = os.path.join(folder, "random.plan.json")
+        self.trace_file = os.path.join(folder, "trace")
+        self.environment = {key: value for key, value in os.environ.items()
+                            if key not in ("FAB_BOM_OLD_ALGORITHM", "QOR_TRACE")}
+
+    def write(self, text):
+        with open(self.plan_file, "w", encoding="utf-8") as file:
+            file.write(text)
+
+    def run(self, case):
+        if os.path.exists(self.trace_file):
+            os.remove(self.trace_file)
+        command = [self.path, "bom", self.plan_file, *case.arguments(),
+                   "--format", "json", "--trace", self.trace_file]
+        try:
+            done = subprocess.run(command, capture_output=True, env=self.environment, close_fds=False,
+                                  timeout=RUN_SECONDS, check=False)
+        except subprocess.TimeoutExpired:
+            return Outcome(failure=f"no end after {RUN_SECONDS} seconds")
+        if done.returncode != 0:
+            return Outcome(failure=f"exit status {done.returncode}: {done.stderr.decode(errors='replace')}")
+        try:
+            with open(self.trace_file, encoding="utf-8", newline="") as file:
+                return Outcome(json.loads(done.stdout), file.read())
+        except (OSError, ValueError) as error:
+            return Outcome(failure=f"output can't be read: {error}")
+
+
+def make_cases(rng, plan, resources, legacy):
+    """One to three roots of the plan, each with settings of its own."""
+    activities = [obj.key for obj in plan.objects if cast(obj, "QORISPPActivity") and obj is not plan.process]
+    roots = some_of(rng, activities, rng.choice((0, 0, 0, 1) if resources else (0, 0, 1, 2)))
+    if resources:
+        roots += some_of(rng, [obj.key for obj in plan.objects if isinstance(obj, Resource)], 2)
+    else:
+        roots.append(None)
+    return [Case(root, make_fasteners(rng), rng.random() < 0.3, legacy) for root in roots]
+
+
+def some_of(rng, keys, count):
+    return rng.sample(keys, min(len(keys), count))
+
+
+def make_fasteners(rng):
+    style = rng.random()
+    if style < 0.2:
+        return ",".join(rng.sample(FASTENER_TYPES, rng.randint(1, len(FASTENER_TYPES))))
+    return "none" if style < 0.3 else "all"
+
+
+def reference_outcome(plan, case):
+    result = analyse(plan, case.root, case.settings(), WORK_LIMIT)
+    return Outcome({"bom": result.bom}, result.trace)
+
+
+def usable_plans(seed, resources, legacy):
+    """Endless plans with their runs and the reference's outcomes; a plan with too many paths is passed over."""
+    for index in itertools.count():
+        rng = random.Random(f"{seed}:{index}")
+        data = make_plan(rng, resources)
+        plan = Plan(data)
+        cases = make_cases(rng, plan, resources, legacy)
+        try:
+            runs = [(case, reference_outcome(plan, case)) for case in cases]
+        except WorkLimitError:
+            continue
+        text = json.dumps(data, ensure_ascii=rng.random() < 0.2, indent=rng.choice((None, 1)))
+        yield index, text, runs
+
+
+def first_difference(expected, actual):
+    """The lines around the first place where two traces part, the reference's first."""
+    pairs = itertools.zip_longest(expected.split("\n"), actual.split("\n"), fillvalue="(end of trace)")
+    for number, (ours, theirs) in enumerate(pairs, 1):
+        if ours != theirs:
+            before = expected.split("\n")[max(0, number - 4):number - 1]
+            return "".join(f"    {line}\n" for line in before) + (
+                f"  line {number}\n    reference: {ours!r}\n    planner:   {theirs!r}\n")
+    return ""
+
+
+def describe(index, case, text, expected, actual):
+    """A difference for a person to read, empty when there is none."""
+    if (actual.failure, actual.bom, actual.trace) == ("", expected.bom, expected.trace):
+        return ""
+    lines = [f"plan {index}, options: {' '.join(case.arguments())}",
+             json.dumps(json.loads(text), ensure_ascii=False)]
+    if actual.failure:
+        lines.append(actual.failure)
+    else:
+        if actual.trace != expected.trace:
+            lines += ["traces differ:", first_difference(expected.trace, actual.trace)]
+        lines += [f"reference: {json.dumps(expected.bom, ensure_ascii=False)}",
+                  f"planner:   {json.dumps(actual.bom, ensure_ascii=False)}"]
+    return "\n".join(lines)
+
+
+def keep(folder, index, text):
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, f"{index}.plan.json"), "w", encoding="utf-8") as file:
+        file.write(text)
+
+
+def compare_all(options):
+    """Runs all plans and gives the number of runs and of those that differ."""
+    runs_made = differences = 0
+    with tempfile.TemporaryDirectory() as folder:
+        planner = Planner(options.planner, folder)
+        plans = usable_plans(options.seed, options.resources, options.legacy)
+        for index, text, runs in itertools.islice(plans, options.plans):
+            planner.write(text)
+            for case, expected in runs:
+                runs_made += 1
+                report = describe(index, case, text, expected, planner.run(case))
+                if not report:
+                    continue
+                differences += 1
+                if options.keep:
+                    keep(options.keep, index, text)
+                if differences <= DIFFERENCES_SHOWN:
+                    print(report + "\n")
+    return runs_made, differences
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Compares the planner with the reference on random plans.")
+    parser.add_argument("--planner", required=True)
+    parser.add_argument("--plans", type=int, default=1000)
+    parser.add_argument("--seed", default="1")
+    parser.add_argument("--legacy", action="store_true")
+    parser.add_argument("--resources", action="store_true")
+    parser.add_argument("--keep", metavar="DIR")
+    options = parser.parse_args()
+    runs_made, differences = compare_all(options)
+    outcome = f"{differences} differ" if differences else "all equal"
+    print(f"{options.plans} plans, {runs_made} runs, {outcome}")
+    return 1 if differences or not runs_made else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
