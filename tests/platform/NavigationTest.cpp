@@ -13,6 +13,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -38,6 +39,9 @@ public:
     }
 
     QORListValQORUnicodeString* GetIdentificators() {
+        if (onAnyLabel_) {
+            std::exchange(onAnyLabel_, nullptr)();
+        }
         auto labels = std::make_unique<QORListValQORUnicodeString>();
         labels->Append(QORUnicodeString(text_.substr(0, text_.find('('))));
         return labels.release();
@@ -60,6 +64,7 @@ public:
 
     int asked_ = 0;
     std::function<void()> onChildren_;
+    inline static std::function<void()> onAnyLabel_; // called at the next label of any of them
 
 private:
     static std::vector<std::string> partsOf(const std::string& text) {
@@ -383,6 +388,22 @@ TEST_F(Navigator, MayBeEmptiedWhileATreeObjectIsAsked) {
     box_->ReportExpand(root());
     EXPECT_EQ(drawn(), "");
     EXPECT_EQ(log_.take(), "roots 0");
+}
+
+TEST_F(Navigator, MayBeEmptiedOrEndWhileTheFirstChildIsAskedForItsLabel) {
+    add("A(B C)");
+    Leaf::onAnyLabel_ = [this] {
+        box_->RemoveAllRoots();
+    };
+    box_->ReportExpand(root());
+    EXPECT_EQ(log_.take(), "roots 0");
+    EXPECT_EQ(drawn(), "");
+    add("A(B C)");
+    Leaf::onAnyLabel_ = [this] {
+        frame_.reset();
+    };
+    box_->ReportExpand(root());
+    EXPECT_EQ(log_.take(), "box gone | viewer gone");
 }
 
 TEST_F(Navigator, MayEndWhileATreeObjectIsAsked) {
