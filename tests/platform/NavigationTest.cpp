@@ -392,10 +392,12 @@ TEST_F(Navigator, MayBeEmptiedWhileATreeObjectIsAsked) {
 
 TEST_F(Navigator, MayBeEmptiedOrEndWhileTheFirstChildIsAskedForItsLabel) {
     add("A(B C)");
+    const QORVar<QORNavigInstance> held(&root());
     Leaf::onAnyLabel_ = [this] {
         box_->RemoveAllRoots();
     };
     box_->ReportExpand(root());
+    EXPECT_EQ(held->GetChildCount(), 0) << "nothing enters below what has left the tree";
     EXPECT_EQ(log_.take(), "roots 0");
     EXPECT_EQ(drawn(), "");
     add("A(B C)");
