@@ -7,6 +7,7 @@
 #include "navigation/QORToolkit.h"
 #include "visualization/QORVisManager.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,19 @@ namespace recording {
 
 class Log {
 public:
-    void add(std::string line) { lines_.push_back(std::move(line)); }
+    void add(std::string line) {
+        if (before_) {
+            before_();
+        }
+        put(std::move(line));
+    }
+
+    /// Adds a line without calling what onLine has set.
+    void put(std::string line) { lines_.push_back(std::move(line)); }
+
+    /// Something to do before each line: to bring in what is written down elsewhere.
+    void onLine(std::function<void()> before) { before_ = std::move(before); }
+
     const std::vector<std::string>& lines() const { return lines_; }
 
     /// The lines since the last call, joined by " | ".
@@ -30,6 +43,7 @@ public:
 
 private:
     std::vector<std::string> lines_;
+    std::function<void()> before_;
 };
 
 inline std::string nameOf(const QORCommand* command) {
