@@ -8,8 +8,12 @@ using namespace testmodel;
 
 namespace {
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kMany = 50000;
+#else
 constexpr int kMany = 200000;
-constexpr int kDeep = 100000;
+#endif
+constexpr int kDeep = kMany / 2;
 constexpr std::chrono::seconds kBound(60); // far above what is needed, far below what squares of these numbers need
 
 std::string named(const char* prefix, int index) {
