@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <array>
 
 namespace planner {
@@ -27,10 +28,8 @@ Format formatOf(const std::string& name) {
 }
 
 std::vector<std::string> formatNames() {
-    std::vector<std::string> names;
-    for (const NamedFormat& each : kFormats) {
-        names.emplace_back(each.name);
-    }
+    std::vector<std::string> names(kFormats.size());
+    std::transform(kFormats.begin(), kFormats.end(), names.begin(), [](const NamedFormat& each) { return each.name; });
     return names;
 }
 

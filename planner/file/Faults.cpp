@@ -45,10 +45,8 @@ std::vector<std::string> Faults::lines(const std::string& name, std::string_view
     std::vector<Fault> sorted = faults_;
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const Fault& left, const Fault& right) { return left.offset < right.offset; });
-    std::vector<std::size_t> offsets;
-    for (const Fault& fault : sorted) {
-        offsets.push_back(fault.offset);
-    }
+    std::vector<std::size_t> offsets(sorted.size());
+    std::transform(sorted.begin(), sorted.end(), offsets.begin(), [](const Fault& fault) { return fault.offset; });
     const std::vector<std::string> pointers = jsonPointers(text, offsets);
     LineCounter counter(text);
     std::vector<std::string> lines;

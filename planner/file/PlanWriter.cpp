@@ -347,7 +347,7 @@ void writePlan(const Plan& plan, TextSink& sink) {
 
 std::optional<std::string> writePlanFile(const Plan& plan, const std::string& path) {
     FileReplacement file(path);
-    if (const auto error = file.error()) {
+    if (auto error = file.error()) {
         return error;
     }
     TextSink sink(file.descriptor());

@@ -42,7 +42,7 @@ std::string contentOf(const std::string& path) {
 
 std::string makeFile(const std::string& name, const std::string& content) {
     // Test programs run side by side, each test in a process of its own.
-    const std::string path = testing::TempDir() + "planner-" + std::to_string(::getpid()) + '-' + name;
+    std::string path = testing::TempDir() + "planner-" + std::to_string(::getpid()) + '-' + name;
     std::ofstream(path, std::ios::binary) << content;
     return path;
 }
