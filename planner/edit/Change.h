@@ -43,7 +43,7 @@ struct Spot {
 class Placement final : public Change {
 public:
     Placement(KindPair kinds, Mentions& mentions, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to)
-        : Change(kinds), mentions_(mentions), object_(object), from_(std::move(from)), to_(std::move(to)) {}
+        : Change(kinds), mentions_(mentions), object_(object), from_(from), to_(to) {}
 
     void apply() override;
     void revert() override;

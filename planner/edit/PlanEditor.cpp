@@ -99,7 +99,7 @@ void PlanEditor::makeStanding(std::vector<ModelObject*> objects, Standing::Direc
 }
 
 void PlanEditor::place(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to) {
-    open_->make(std::make_unique<Placement>(kinds, mentions_, object, std::move(from), std::move(to)));
+    open_->make(std::make_unique<Placement>(kinds, mentions_, object, from, to));
 }
 
 /// Takes the links of a top and of all below it, and then all of them, out of the plan. The top is out of its list.
