@@ -6,6 +6,26 @@ using namespace testmodel;
 
 namespace {
 
+using ProcessBill = BillTable<Root::Process, Algorithm::Present>;
+TEST_P(ProcessBill, IsWhatTheRowSays) {
+    EXPECT_EQ(bill(), GetParam().bom);
+}
+
+using OlderProcessBill = BillTable<Root::Process, Algorithm::Older>;
+TEST_P(OlderProcessBill, IsWhatTheRowSays) {
+    EXPECT_EQ(bill(), GetParam().bom);
+}
+
+using ResourceBill = BillTable<Root::Resource, Algorithm::Present>;
+TEST_P(ResourceBill, IsWhatTheRowSays) {
+    EXPECT_EQ(bill(), GetParam().bom);
+}
+
+using OlderResourceBill = BillTable<Root::Resource, Algorithm::Older>;
+TEST_P(OlderResourceBill, IsWhatTheRowSays) {
+    EXPECT_EQ(bill(), GetParam().bom);
+}
+
 const BillRow kOutcomes[] = {
     {"OneAssignment", "S1: +P | S2", "P"},
     {"TwoAssignments", "S1: +P | S2: +P", "P"},
@@ -33,7 +53,7 @@ const BillRow kOutcomes[] = {
     {"UnassignedFastener", "S1: *w? *v | S2", "*v"},
     {"FastenerFirstAssigned", "S1: +w *w | S2", "w"},
 };
-VXM_BILL_TABLE(Outcomes, kOutcomes, Root::Process, Algorithm::Present);
+INSTANTIATE_TEST_SUITE_P(Outcomes, ProcessBill, testing::ValuesIn(kOutcomes), rowName);
 
 const BillRow kFlows[] = {
     {"LastStepFirst", "S1: +A | S2: +B | S3: +C", "C B A"},
@@ -48,7 +68,7 @@ const BillRow kFlows[] = {
          world["R"].items[2] = Things{&world.thing("X", kItem)};
      }},
 };
-VXM_BILL_TABLE(Flows, kFlows, Root::Process, Algorithm::Present);
+INSTANTIATE_TEST_SUITE_P(Flows, ProcessBill, testing::ValuesIn(kFlows), rowName);
 
 const BillRow kStations[] = {
     {"StationItself", "S@station: +P =Q >O | T", "O P"},
@@ -73,7 +93,7 @@ const BillRow kStations[] = {
          world["U"].parent = world["T"].parent;
      }},
 };
-VXM_BILL_TABLE(Stations, kStations, Root::Process, Algorithm::Present);
+INSTANTIATE_TEST_SUITE_P(Stations, ProcessBill, testing::ValuesIn(kStations), rowName);
 
 const BillRow kStructures[] = {
     {"AssemblyInItself", "S1: +A[A] | S2", "A(A)"},
@@ -103,7 +123,7 @@ const BillRow kStructures[] = {
          world["A"].name = "T\xC3\xBCr & <\xE2\x82\xAC>";
      }},
 };
-VXM_BILL_TABLE(Structures, kStructures, Root::Process, Algorithm::Present);
+INSTANTIATE_TEST_SUITE_P(Structures, ProcessBill, testing::ValuesIn(kStructures), rowName);
 
 const BillRow kOlder[] = {
     {"OutputsOpenLevels", "S1: +P | S2: >Q | S3: >O", "O(Q(P))"},
@@ -123,7 +143,7 @@ const BillRow kOlder[] = {
     {"BranchesGoUnderTheSameOutput", "S1: +A | S2: +B | S4: >O, S3: +C ; S1>S3 S3>S4", "O(B A C)"},
     {"LoopIsTakenOnce", "S1: >A | S2: >B | S3: >C ; S3>S1", "B(A(C))"},
 };
-VXM_BILL_TABLE(OlderAlgorithm, kOlder, Root::Process, Algorithm::Older);
+INSTANTIATE_TEST_SUITE_P(Older, OlderProcessBill, testing::ValuesIn(kOlder), rowName);
 
 const BillRow kResources[] = {
     {"AllThatIsAssigned", "R@resource: +X ( C1@resource: +P >O *w | C2@resource: +Q )", "X Q O P w"},
@@ -146,12 +166,12 @@ const BillRow kResources[] = {
      }},
     {"UnlinkedFastenerTypeIsAProduct", "R@resource: *w{Nail}", "w"},
 };
-VXM_BILL_TABLE(Resources, kResources, Root::Resource, Algorithm::Present);
+INSTANTIATE_TEST_SUITE_P(Present, ResourceBill, testing::ValuesIn(kResources), rowName);
 
 const BillRow kOlderResources[] = {
     {"OutputsOpenLevels", "R@resource: >X ( C1@resource: +P | C2@resource: >O[P Q] +R )", "X(O(P Q R))"},
 };
-VXM_BILL_TABLE(OlderResources, kOlderResources, Root::Resource, Algorithm::Older);
+INSTANTIATE_TEST_SUITE_P(Older, OlderResourceBill, testing::ValuesIn(kOlderResources), rowName);
 
 TEST(PreviewObjects, DescendantsComeBeforeTheirProduct) {
     World world;

@@ -82,8 +82,9 @@ public:
         std::string text;
         for (const Node* child : node.children) {
             const std::string below = treeText(*child);
-            text +=
-                (text.empty() ? "" : " ") + std::to_string(child->number) + (below.empty() ? "" : "(" + below + ")");
+            text += text.empty() ? "" : " ";
+            text += std::to_string(child->number);
+            text += below.empty() ? "" : "(" + below + ")";
         }
         return text;
     }
@@ -95,11 +96,14 @@ public:
             const bool isShown = isFastener || child->type == VXMFabMBOMNode::AT_Create ||
                                  child->type == VXMFabMBOMNode::AT_FirstAssign ||
                                  (child->type == VXMFabMBOMNode::AT_Process && removed_.contains(child->id));
-            std::string own = bomText(*child);
-            if (isShown) {
-                own = (isFastener ? "*P" : "P") + std::to_string(child->id) + (own.empty() ? "" : "(" + own + ")");
+            const std::string below = bomText(*child);
+            text += text.empty() || (below.empty() && !isShown) ? "" : " ";
+            if (!isShown) {
+                text += below;
+                continue;
             }
-            text += text.empty() || own.empty() ? own : " " + own;
+            text += (isFastener ? "*P" : "P") + std::to_string(child->id);
+            text += below.empty() ? "" : "(" + below + ")";
         }
         return text;
     }

@@ -184,6 +184,40 @@ TEST(Scale, ChainListedBackwards) {
     expectElements(root, kMany);
 }
 
+/// 60 forks and joins in a row after the one step that brings a product; back to it, or on to the end alone.
+TEST(Scale, ForksThatBringNothing) {
+    for (const bool isLoop : {false, true}) {
+        World world;
+        Thing& root = world.thing("R", kStep);
+        const auto step = [&](const std::string& name) -> Thing& {
+            Thing& made = world.thing(name, kStep);
+            made.parent = &root;
+            root.children = root.children ? root.children : Things();
+            root.children->push_back(&made);
+            return made;
+        };
+        Thing& start = step("start");
+        Thing* join = &step("first");
+        World::link(start, *join);
+        (isLoop ? *join : step("aside")).items[2] = Things{&world.thing("P", kItem)};
+        Thing& first = *join;
+        for (int index = 1; index <= 60; ++index) {
+            Thing& next = step(named("J", index));
+            for (const char* side : {"A", "B"}) {
+                Thing& branch = step(named(side, index));
+                World::link(*join, branch);
+                World::link(branch, next);
+            }
+            join = &next;
+        }
+        if (isLoop) {
+            World::link(*join, first);
+        }
+        World::link(*join, step("end"));
+        expectElements(root, isLoop ? 1 : 0);
+    }
+}
+
 TEST(Scale, AModelThatRaisesAtTheDeepestPlace) {
     World world;
     Thing& root = chainPlan(world, kMany);
