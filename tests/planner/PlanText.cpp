@@ -6,10 +6,26 @@
 
 #include <cstdio>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <unistd.h>
 
 namespace plantext {
+
+namespace {
+
+/// The files that tests made; they go with the program.
+struct MadeFiles {
+    std::set<std::string> paths;
+
+    ~MadeFiles() {
+        for (const std::string& path : paths) {
+            std::remove(path.c_str());
+        }
+    }
+};
+
+} // namespace
 
 std::unique_ptr<planner::Plan> read(const std::string& text) {
     planner::ReadResult result = planner::parsePlan(text, "p", "title");
@@ -42,7 +58,9 @@ std::string contentOf(const std::string& path) {
 
 std::string makeFile(const std::string& name, const std::string& content) {
     // Test programs run side by side, each test in a process of its own.
+    static MadeFiles made;
     std::string path = testing::TempDir() + "planner-" + std::to_string(::getpid()) + '-' + name;
+    made.paths.insert(path);
     std::ofstream(path, std::ios::binary) << content;
     return path;
 }
