@@ -46,7 +46,6 @@ public:
         : _generator(ioGenerator), _document(ioGenerator._document), _rootElement(ioGenerator._rootElement),
           _previewObjects(std::exchange(ioGenerator._previewObjects, {})) {}
     ~Computation() {
-        _generator._stations->Clear();
         if (_succeeded) {
             return;
         }
@@ -70,9 +69,25 @@ private:
     bool _succeeded = false;
 };
 
+namespace {
+
+/// Stations are remembered for as long as this lives.
+class StationsKept {
+public:
+    explicit StationsKept(VXMStationMemo*& oPlace) : _place(oPlace) { _place = &_memo; }
+    ~StationsKept() { _place = nullptr; }
+    StationsKept(const StationsKept&) = delete;
+    StationsKept& operator=(const StationsKept&) = delete;
+
+private:
+    VXMStationMemo _memo;
+    VXMStationMemo*& _place;
+};
+
+} // namespace
+
 VXMBomGenerator::VXMBomGenerator(const QORBaseUnknown_var& iRoot)
-    : _rootObject(iRoot), _firstItems(std::make_unique<VXMFirstItemSearch>()),
-      _stations(std::make_unique<VXMStationMemo>()) {
+    : _rootObject(iRoot), _firstItems(std::make_unique<VXMFirstItemSearch>()) {
     QORXMLParser::Initialize();
     ReadSettings();
     ReadAlgorithm();
@@ -111,6 +126,7 @@ DOM_Document& VXMBomGenerator::GetBom(unsigned char iForce) {
     _rootElement = _document.createElement("BOM");
     _document.appendChild(_rootElement);
     MainCheckFlow();
+    FreeMN(); // without a root nothing has dropped the tree before
     VXMFabFlowNode* const last = GetLastNodeInFlow(_firstFlowNode);
     MakeTopNode();
     BuildAndClean(last);
@@ -147,8 +163,8 @@ void VXMBomGenerator::MainCheckFlow() {
     FreeFN();
     FreeMN();
     _counter = 1;
-    _stations->Clear();
     const VXMFirstItemSearch::Keeping keeping(*_firstItems);
+    const StationsKept stations(_stations);
     std::unique_ptr<VXMFabFlowNode> first(CreateFlowNode(_rootObject, 0));
     if (!first) {
         return;

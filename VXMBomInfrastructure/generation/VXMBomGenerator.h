@@ -27,7 +27,7 @@ class VXMStationMemo;
 /// the tree and writes the document. Settings and the choice of the algorithm are taken once, at construction. Not
 /// counted: whoever makes a generator deletes it. It owns its flow nodes and MBOM nodes and replaces them with each
 /// computation. An exception of the model passes through; what the last successful computation gave is then back in
-/// place, and the next GetBom computes anew.
+/// place and is served until the next one.
 class VXM_EXPORT VXMBomGenerator {
 public:
     using AssignmentType = VXMFabMBOMNode::AssignmentType;
@@ -177,8 +177,8 @@ protected:
     QORBaseUnknown_var SearchFirstItem(const QORBaseUnknown_var& iItem,
                                        const std::function<std::optional<QORBaseUnknown_var>()>& iFirstPredecessor);
 
-    /// Which activities stand in stations, for the length of one computation.
-    VXMStationMemo& Stations() { return *_stations; }
+    /// Which activities stand in stations; null unless a walk is under way.
+    VXMStationMemo* Stations() { return _stations; }
 
 private:
     friend class VXMFlowWalk;
@@ -223,7 +223,7 @@ private:
     VXMFabMBOMNode* _topNode = nullptr;
 
     std::unique_ptr<VXMFirstItemSearch> _firstItems;
-    std::unique_ptr<VXMStationMemo> _stations;
+    VXMStationMemo* _stations = nullptr;       // only while a walk runs
     std::unordered_map<int, int> _childVisits; // child visits under way: identity number, objects met at its start
     const RepeatMarks* _repeatMarks = nullptr; // only while a pass runs
 };

@@ -13,6 +13,7 @@
 #include "generation/VXMFruitfulSteps.h"
 #include "generation/VXMStructureExpansion.h"
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 

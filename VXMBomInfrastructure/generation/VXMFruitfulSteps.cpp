@@ -26,6 +26,11 @@ bool VXMFruitfulSteps::Collect(VXMFabFlowNode* iEnd) {
         return false;
     }
     IndexFollowers();
+    _hasLoop = FindLoop();
+    _brings.assign(_steps.size(), false);
+    _fruitful.assign(_steps.size(), false);
+    _seen.assign(_hasLoop ? _steps.size() : 0, 0);
+    _cameFrom.resize(_seen.size());
     return true;
 }
 
@@ -39,7 +44,6 @@ void VXMFruitfulSteps::IndexFollowers() {
             }
         }
     };
-    _fruitful.assign(_steps.size(), false);
     _followersBegin.assign(_steps.size() + 1, 0);
     forEachLink([this](int iStep, int) { ++_followersBegin[iStep + 1]; });
     for (std::size_t index = 1; index < _followersBegin.size(); ++index) {
@@ -48,6 +52,31 @@ void VXMFruitfulSteps::IndexFollowers() {
     _followers.resize(_followersBegin.back());
     std::vector<int> next(_followersBegin.begin(), _followersBegin.end() - 1);
     forEachLink([this, &next](int iStep, int iFollower) { _followers[next[iStep]++] = iFollower; });
+}
+
+/// Takes steps away that have nothing left before them; what can't be taken away lies on or behind a loop.
+bool VXMFruitfulSteps::FindLoop() const {
+    std::vector<int> left(_steps.size(), 0); // links that come in
+    for (const int follower : _followers) {
+        ++left[follower];
+    }
+    std::vector<int> pending;
+    for (int index = 0; index < static_cast<int>(_steps.size()); ++index) {
+        if (left[index] == 0) {
+            pending.push_back(index);
+        }
+    }
+    std::size_t taken = 0;
+    for (; !pending.empty(); ++taken) {
+        const int step = pending.back();
+        pending.pop_back();
+        for (int place = _followersBegin[step]; place < _followersBegin[step + 1]; ++place) {
+            if (--left[_followers[place]] == 0) {
+                pending.push_back(_followers[place]);
+            }
+        }
+    }
+    return taken < _steps.size();
 }
 
 void VXMFruitfulSteps::MarkAhead(int iIndex) {
@@ -64,6 +93,41 @@ void VXMFruitfulSteps::MarkAhead(int iIndex) {
     }
 }
 
-bool VXMFruitfulSteps::MayPassOver(const VXMFabFlowNode* iNode) const {
-    return iNode && !_steps.empty() && !_fruitful[iNode->_fruitfulIndex];
+bool VXMFruitfulSteps::MayPassOver(const VXMFabFlowNode* iNode) {
+    if (!iNode || _steps.empty()) {
+        return false;
+    }
+    return !_fruitful[iNode->_fruitfulIndex] || (_hasLoop && !LeadsToProducts(iNode->_fruitfulIndex));
+}
+
+/// Whether a step that brings products can be reached from this one without coming past the present path. As long as
+/// the walk follows the way that a search has found, no further search is made.
+bool VXMFruitfulSteps::LeadsToProducts(int iIndex) {
+    if (!_way.empty() && _way.back() == iIndex) {
+        _way.pop_back();
+        return true;
+    }
+    ++_search;
+    _way.clear();
+    std::vector<int> pending{iIndex};
+    _seen[iIndex] = _search;
+    while (!pending.empty()) {
+        int step = pending.back();
+        pending.pop_back();
+        if (_brings[step]) {
+            for (; step != iIndex; step = _cameFrom[step]) {
+                _way.push_back(step);
+            }
+            return true;
+        }
+        for (int position = 1; position <= _steps[step]->GetNumberOfPredecessors(); ++position) {
+            const VXMFabFlowNode* const before = _steps[step]->GetPredecessor(position);
+            if (before && !before->_isOnBackwardPath && _seen[before->_fruitfulIndex] != _search) {
+                _seen[before->_fruitfulIndex] = _search;
+                _cameFrom[before->_fruitfulIndex] = step;
+                pending.push_back(before->_fruitfulIndex);
+            }
+        }
+    }
+    return false;
 }

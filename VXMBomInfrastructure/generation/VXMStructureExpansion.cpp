@@ -4,6 +4,8 @@
 #include "model/QORIProduct.h"
 #include "model/VXMIMfgAssembly.h"
 
+#include <utility>
+
 VXMStructureExpansion::VXMStructureExpansion(VXMBomGenerator& ioGenerator, Kind iKind)
     : _generator(ioGenerator), _kind(iKind) {}
 

@@ -11,8 +11,6 @@ public:
     /// Whether iActivity or an activity above it is of the station's model type; a null handle isn't.
     bool IsInStation(QORISPPAbstractActivity_var iActivity);
 
-    void Clear() { _answers.clear(); }
-
 private:
     std::unordered_map<int, bool> _answers; // by identity number
 };

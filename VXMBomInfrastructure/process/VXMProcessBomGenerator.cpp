@@ -54,5 +54,5 @@ unsigned char VXMProcessBomGenerator::IsStandaloneLogicalNode(const QORBaseUnkno
 
 VXMFabFlowNode* VXMProcessBomGenerator::CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) {
     return new VXMFabProcessFlowNode(QORISPPAbstractActivity_var(iItem), iLevel, GetCounter(), GetFastenersShowMode(),
-                                     GetAssignedFastenersShowMode(), &Stations());
+                                     GetAssignedFastenersShowMode(), Stations());
 }

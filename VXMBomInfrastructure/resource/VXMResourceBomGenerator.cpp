@@ -143,7 +143,7 @@ VXMFabFlowNode* VXMResourceBomGenerator::CreateFlowNode(QORBaseUnknown_var iItem
     }
     if (const QORISPPAbstractActivity_var activity{iItem}) {
         return new VXMFabProcessFlowNode(activity, iLevel, GetCounter(), GetFastenersShowMode(),
-                                         GetAssignedFastenersShowMode(), &Stations());
+                                         GetAssignedFastenersShowMode(), Stations());
     }
     return nullptr;
 }

@@ -50,6 +50,12 @@ void QORListValQORUnicodeString::MakeIndex() const {
     _indexed = true;
 }
 
+int QORListValQORUnicodeString::RemoveValue(const QORUnicodeString& iText) {
+    const int position = Locate(iText);
+    RemovePosition(position);
+    return position;
+}
+
 void QORListValQORUnicodeString::RemovePosition(int iPosition) {
     if (iPosition < 1 || iPosition > Size()) {
         return;

@@ -18,6 +18,8 @@ public:
     /// First position from iFrom on that holds the text, 0 when there is none.
     int Locate(const QORUnicodeString& iText, int iFrom = 1) const;
 
+    /// Removes the first entry of that text and gives the position that it had, 0 when there is none.
+    int RemoveValue(const QORUnicodeString& iText);
     void RemovePosition(int iPosition);
 
     /// Removes the entry and moves the last one into its place: for lists whose order means nothing.

@@ -88,7 +88,14 @@ TEST(TextList, FindsTheSameWithAndWithoutItsIndex) {
     for (int step = 0; step < 4000; ++step) {
         const std::string text = std::to_string(random() % 60);
         const int position = static_cast<int>(random() % 50) + 1;
-        switch (random() % 8) {
+        switch (random() % 9) {
+        case 8: {
+            const auto place = std::find(model.begin(), model.end(), text);
+            ASSERT_EQ(list.RemoveValue(QORUnicodeString(text)),
+                      place == model.end() ? 0 : static_cast<int>(place - model.begin()) + 1);
+            model.erase(place, place == model.end() ? place : place + 1);
+            break;
+        }
         case 0:
             list.RemovePosition(position);
             if (position <= static_cast<int>(model.size())) {
