@@ -15,6 +15,8 @@
 #include "visualization/QORNavigation3DViewer.h"
 #include "visualization/QORVisManager.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* kSource = "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer";
@@ -28,6 +30,16 @@ QORBaseUnknown* CreateItself() {
 }
 
 const QORMetaClass* const registered = VXMFabBomViewer::ClassMeta();
+
+/// A step of the window's end that asks the model: one that raises mustn't keep the rest from ending.
+template <class Step>
+void Regardless(Step iStep) {
+    try {
+        iStep();
+    } catch (...) {
+        VXMBomViewerTrace.TraPutLN("The model raised an error while a BOMViewer ended");
+    }
+}
 
 } // namespace
 
@@ -63,10 +75,10 @@ VXMFabBomViewer::VXMFabBomViewer(const QORString& iName, QORFrmEditor* iEditor, 
 
 VXMFabBomViewer::~VXMFabBomViewer() {
     const VXMTraceMarks marks("--> VXMFabBomViewer Destructor ", "<-- VXMFabBomViewer Destructor ");
-    RemoveBOMItems(_previewObjects);
+    Regardless([this] { RemoveBOMItems(_previewObjects); });
     RemoveAnalyseNotificationCB(this, GetWindSizeNotification(), nullptr);
     _navigBox = nullptr;
-    RemoveCallbacks();
+    Regardless([this] { RemoveCallbacks(); });
     if (_windowFrame) {
         _windowFrame->ResetAttachment(_viewer);
         _windowFrame = nullptr;
@@ -130,6 +142,7 @@ void VXMFabBomViewer::GetDisplayName(QORUnicodeString& oDisplayName) {
         _viewer->GetGraphicSize(graphicWidth, graphicHeight);
         width = static_cast<int>(graphicWidth);
     }
+    width = std::max(width, 0);
     const int length = _windowName.GetLengthInChar();
     if (length * kPixelsPerCharacter <= width) {
         oDisplayName = _windowName;

@@ -30,7 +30,9 @@ QORNavigBox* VXMFabBomViewer::CreateNavigBox(QORViewer* iViewer, QORFrmEditor* i
                                              const char* iName, int iAllowDuplicates, int iDepth, int iWidth,
                                              int iHeight, int iExtensionMode) {
     const VXMTraceMarks marks("--> VXMFabBomViewer::CreateNavigBox", "<-- VXMFabBomViewer::CreateNavigBox");
-    AddGraphViewpoint(*iViewer);
+    if (iViewer) {
+        AddGraphViewpoint(*iViewer);
+    }
     auto* const frame = new QORDlgFrame(GetViewerFrame(), "FrmWindowTag", kQORFrameTag);
     auto* const box =
         new QORNavigBox(frame, iName, iEditor, kQORGraphTree, "Bom ID", iWidth, iHeight, iViewer, nullptr);

@@ -109,8 +109,7 @@ void VXMFabBomViewer::OnActivityCallback(const char*, void*, QORNotification* iN
     if (!iNotification || iNotification->IsAKindOf("QORSPPActivityNotification") == 0 || !iNotification->GetImpl(0)) {
         return;
     }
-    // Whoever is told of the rebuild may close the window: it stays until this call is over.
-    const QORVar<QORFrmWindow> self(this);
+    const QORVar<QORFrmWindow> self(this); // see UpdateBom
     if (Rebuilds(static_cast<QORSPPActivityNotification*>(iNotification->GetImpl(0))->GetNotificationKind())) {
         UpdateBom();
     }
@@ -136,6 +135,8 @@ void VXMFabBomViewer::UpdateBom() {
     if (!_navigBox || !_generator) {
         return;
     }
+    // Whoever is told of the emptied or refilled tree may close the window: it stays until this call is over.
+    const QORVar<QORFrmWindow> self(this);
     _navigBox->RemoveAllRoots();
     const DOM_Document document = _generator->GetBom(1);
     if (HasTree()) {
