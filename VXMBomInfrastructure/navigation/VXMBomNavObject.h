@@ -9,14 +9,14 @@
 
 class QORPathElement;
 
-/// What the tree navigator sees of a BOM: one object stands for one element of the document, and answers label and
-/// children from it. It holds nothing else, and keeps its document alive: objects of an earlier document go on reading
-/// that one. Answers QORINavigateObject, QORINavigateObjectPPR and QORINavigateObjectModify.
+/// Tree object of a BOM: each stands for an element of the document and takes its label and its children from there. It
+/// knows nothing but the element, and with it holds the whole document: what shows an older bill keeps that bill.
+/// Answers QORINavigateObject, QORINavigateObjectPPR and QORINavigateObjectModify.
 class VXM_EXPORT VXMBomNavObject : public QORBaseUnknown, private QORCounted<VXMBomNavObject> {
 public:
     static constexpr std::string_view kCountName = "VXMBomNavObject";
 
-    /// Builds the BOM of the process under iActivity and stands for its document element.
+    /// Has the bill of iActivity's process computed, and stands for the top of it.
     explicit VXMBomNavObject(const QORISPPActivity_var& iActivity);
 
     /// Stands for iElement.

@@ -17,7 +17,8 @@ class VXMBomGenerator;
 /// process plan while it is open.
 ///
 /// Whoever makes the window lets it go (see QORCommand); editor and platform objects outlive it or tell that they
-/// don't. All operations run on the thread of the dialog loop. What the model raises passes through.
+/// don't. All operations run on the thread of the dialog loop. What the model raises passes through; while the window
+/// ends it is noted in the trace, and the window goes on ending.
 class VXM_EXPORT VXMFabBomViewer : public QORFrmWindow {
 public:
     /// What the window shows: mode 1 the tree, 2 the items, 3 both.
@@ -34,9 +35,10 @@ public:
     QORMetaClass* GetMetaObject() const override;
     const char* GetResourceFilename(int iLevel) override;
 
-    /// Builds the tree box beside the viewer, with iRoot as its root where the display mode has a tree. A depth of -1
-    /// has no limit; iAllowDuplicates 0 shows no object twice; iExtensionMode other than 0 is handed to the controller.
-    /// Null, with no root in the box, when the tree settings can't be had. The box belongs to the window's frame.
+    /// Builds the tree box beside the viewer, which may be null, with iRoot as its root where the display mode has a
+    /// tree. A depth of -1 has no limit; iAllowDuplicates 0 shows no object twice; iExtensionMode other than 0 is
+    /// handed to the controller. Null, with no root in the box, when the tree settings can't be had. The box belongs to
+    /// the window's frame.
     virtual QORNavigBox* CreateNavigBox(QORViewer* iViewer, QORFrmEditor* iEditor, QORBaseUnknown_var iRoot,
                                         const char* iName, int iAllowDuplicates, int iDepth, int iWidth, int iHeight,
                                         int iExtensionMode);
