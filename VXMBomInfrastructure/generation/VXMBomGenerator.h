@@ -45,7 +45,8 @@ public:
     /// end of the flow through iCurrent, from which the caller links on.
     virtual VXMFabFlowNode* CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) = 0;
 
-    /// The item at which the flow through iItem begins; on a loop the first one that is met a second time.
+    /// The item at which the flow through iItem begins; where predecessors run in a circle, the one at which the search
+    /// enters it.
     virtual QORBaseUnknown_var GetFirstFlowNode(const QORBaseUnknown_var& iItem) = 0;
 
     /// 1 when iItem stands outside all flows and is left out of the walk, else 0.
@@ -66,8 +67,8 @@ public:
     /// Runs the analysis of the model: drops graph and tree, makes the node of the root and walks from it.
     void MainCheckFlow();
 
-    /// The end of the flow along first successors, null for null; in a loop the node whose first successor it has
-    /// already been at.
+    /// The end of the flow along first successors, null for null. Where they run in a circle, the last node before the
+    /// search would come to one for the second time.
     VXMFabFlowNode* GetLastNodeInFlow(VXMFabFlowNode* iNode);
 
     /// The flow node that is registered for a model object, or null.
@@ -123,7 +124,7 @@ public:
 
     // Cleaning of the MBOM. Nodes are of one product when they share the identity number.
 
-    /// Pairs each removal of a product with an assignment that stands beside it, and takes both away.
+    /// Takes away removals, each with an assignment of the same product that stands beside it.
     void CleanMBOM_RemoveAssignments();
 
     /// Takes away process assignments of products that are assigned otherwise under the same parent.

@@ -2,8 +2,8 @@
 //
 // Present way: removals and assignments of a product that stand beside each other go in pairs; process assignments go
 // where the product is assigned beside them otherwise; and over the whole tree, depth first, the first node of each
-// product stays and later removable ones go with all below them. Since the tree runs from the last step to the first,
-// the latest mention wins.
+// product stays and later removable ones go with all below them. The last step of the flow
+// stands first in the tree, so a product is shown where it was named last.
 //
 // Older way: the same pairing, then repeats go twice over, once over the whole tree and once among brothers.
 //

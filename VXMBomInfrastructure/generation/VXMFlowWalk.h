@@ -33,7 +33,7 @@ public:
     /// Makes the node its own end where nothing came before it and it has no walked child.
     void EndAtCurrent();
 
-    /// The end of the flow as far as this call has followed it, null while there is none.
+    /// Where the flow has got to in this call, null while it has no end yet.
     VXMFabFlowNode* GetLast() const { return _last; }
 
 private:

@@ -13,9 +13,9 @@ class VXMBomGenerator;
 
 /// Makes the MBOM nodes of what one product is made of, depth first, on a stack of its own.
 ///
-/// An assembly lists what it holds; one that comes round on the way down stays a leaf. A plain product lists its child
-/// occurrences; it is never looked up among the assemblies of the path, but one that comes round with only plain
-/// products in between stays a leaf as well, or its structure would have no end.
+/// An assembly lists what it holds, and isn't expanded a second time on one way down. A plain product lists its child
+/// occurrences; it may come again below an assembly that came in between (which ends the matter when it comes round
+/// itself), but not straight below its own kind, or its structure would have no end.
 class VXMStructureExpansion {
 public:
     /// What is expanded, and whether the nodes may go as repeats.

@@ -15,7 +15,7 @@ public:
     /// Name of the activity as a person reads it.
     virtual QORUnicodeString GetName() = 0;
 
-    /// The activity that contains this one, a null handle at the top of the tree.
+    /// The activity above, a null handle when there is none.
     virtual QORISPPAbstractActivity_var GetParent() = 0;
 
     /// Fills oType with the name of the activity's type. The result isn't looked at.

@@ -9,7 +9,7 @@ class VXMIResourceItemMgmt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceItemMgmt"); }
 
-    /// Items assigned to the behaviour, products and fasteners alike.
+    /// What the behaviour works with, of whatever sort.
     virtual QORListValQORBaseUnknown_var* GetAssignedItems() = 0;
 
     /// Items that the behaviour puts out.

@@ -13,8 +13,8 @@
 
 /// Vertex of the flow graph: one step of the flow, with what its model object contributes to the bill.
 ///
-/// The five lists are a snapshot, read from the model once while the node is built; a change in the model is taken up
-/// by building a new graph. After construction only the links change. The generator owns all nodes; neighbours don't
+/// The five lists are a snapshot: the constructor reads the model, and nobody asks it again, so a changed model needs a
+/// new graph. After construction only the links change. The generator owns all nodes; neighbours don't
 /// own each other, and handles that a reader takes out of a list stay valid when the node goes.
 class VXM_EXPORT VXMFabFlowNode : private QORCounted<VXMFabFlowNode> {
 public:

@@ -11,11 +11,11 @@
 
 class VXMFabSiblingIndex;
 
-/// Node of the manufacturing bill of materials: one product, assembly, item or fastener in the place where a step of
-/// the flow brought it. A tree: one predecessor, the parent, and many successors, the children.
+/// One line of the manufacturing bill of materials in the making: an object of the model, how a step of the flow made
+/// use of it, and where it stands. Predecessor and successors are parent and children of a tree.
 ///
-/// Many nodes may stand for one product; they share its identity number. The generator owns all nodes. Links are
-/// two-sided by convention only: who attaches a child calls AddSuccessor on the parent and SetPredecessor on the child.
+/// Many nodes may stand for one product; they share its identity number. The generator owns all nodes. Neither
+/// end of a link follows the other: AddSuccessor and SetPredecessor go together.
 class VXM_EXPORT VXMFabMBOMNode : private QORCounted<VXMFabMBOMNode> {
 public:
     static constexpr std::string_view kCountName = "VXMFabMBOMNode";
@@ -62,8 +62,8 @@ public:
     /// Running number, for traces only.
     int GetNumber() const { return _number; }
 
-    /// Depth in the MBOM tree: 0 on the top node, the parent's level plus 1 below; fixed at construction, so a node
-    /// that cleaning lifted keeps the level that it was made with.
+    /// Depth at which the node was made, the top node's being 0. A node that cleaning lifts keeps it, so compare levels
+    /// only before the cleaning.
     int GetLevel() const { return _level; }
 
     /// Identity number of the product, -1 on the top node, and the same in decimal.

@@ -1,6 +1,6 @@
-// The walk of a process plan. The flow enters the first child of an activity where it would have entered the activity,
-// runs through the children and leaves through the activity: a parent stands for the moment when its children's work is
-// done. See VXMFlowWalk for the steps, and VXMResourceBomGenerator for the walk of a resource beside this one.
+// The walk of a process plan. What flows towards an activity that has children flows into the first of them, on through
+// its brothers, and then into the activity itself, whose node thus means that all below it is finished. See VXMFlowWalk
+// for the steps, and VXMResourceBomGenerator for the walk of a resource beside this one.
 
 #include "process/VXMProcessBomGenerator.h"
 

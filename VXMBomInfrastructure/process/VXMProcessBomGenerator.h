@@ -2,7 +2,7 @@
 
 #include "generation/VXMBomGenerator.h"
 
-/// Generator for a process plan: a tree of activities whose siblings are joined by control-flow links.
+/// Generator for a process plan, whose activities contain each other and follow each other.
 class VXM_EXPORT VXMProcessBomGenerator : public VXMBomGenerator {
 public:
     explicit VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot);
@@ -14,6 +14,6 @@ public:
     /// 1 only for what has flow management without any link and is no concrete activity.
     unsigned char IsStandaloneLogicalNode(const QORBaseUnknown_var& iItem) override;
 
-    /// Never null: an item that is no activity gives a node without content.
+    /// Never null; without an activity in iItem the node has a level and nothing else.
     VXMFabFlowNode* CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) override;
 };

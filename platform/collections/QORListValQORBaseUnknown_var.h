@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// List of counted handles, positions from 1. A list that an operation hands out by pointer belongs to the receiver:
+/// List of counted handles, positions from 1. Who gets a list by pointer owns it:
 /// put it into a std::unique_ptr in the expression that receives it.
 class QOR_EXPORT QORListValQORBaseUnknown_var : private QORCounted<QORListValQORBaseUnknown_var> {
 public:

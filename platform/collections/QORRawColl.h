@@ -4,7 +4,7 @@
 #include <vector>
 
 /// Growable array of plain values, positions from 1. Owns nothing that the values point to.
-/// A position outside 1 to the count gives the null value on reading and does nothing on removing.
+/// Reading where nothing stands gives the null value; removing there changes nothing.
 template <class T>
 class QORRawColl {
 public:
