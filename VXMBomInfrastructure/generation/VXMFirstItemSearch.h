@@ -7,8 +7,8 @@
 #include <vector>
 
 /// Memory of the search for the item at which a flow begins. A generator's GetFirstFlowNode follows first predecessors
-/// by calling itself; each call is one step here. The search ends on a loop at the first item that it meets a second
-/// time. While a computation runs, answers are kept, since the model doesn't change: each item is asked once.
+/// by calling itself; each call is one step here. A search that runs in a circle ends at the item where it has
+/// entered it. While a computation runs, answers are kept, since the model doesn't change: each item is asked once.
 class VXMFirstItemSearch {
 public:
     /// One call of the recursion, for as long as it lives.
