@@ -1,5 +1,5 @@
-# What `cmake --install` puts in place: platform, library, the in-memory model with its file reader, their headers, and
-# a CMake package, so that another project finds them with find_package(VXMBomInfrastructure).
+# What `cmake --install` puts in place: platform, library, the in-memory model with its file reader and its editor, their
+# headers, and a CMake package, so that another project finds them with find_package(VXMBomInfrastructure).
 
 include(CMakePackageConfigHelpers)
 
@@ -8,8 +8,11 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/VXMBomInfrastructure)
 set_target_properties(QORPlatform VXMBomInfrastructure PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION
                                                                   ${PROJECT_VERSION_MAJOR})
 
+# So that the host's libraries can go into a shared one of somebody else.
+set_target_properties(PlannerModel PlannerFile PlannerEdit PROPERTIES POSITION_INDEPENDENT_CODE ON)
+
 install(
-  TARGETS QORPlatform VXMBomInfrastructure PlannerModel PlannerFile
+  TARGETS QORPlatform VXMBomInfrastructure PlannerModel PlannerFile PlannerEdit
   EXPORT VXMBomInfrastructureTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
@@ -18,7 +21,8 @@ install(
   NAMESPACE VXMBomInfrastructure::
   DESTINATION ${package_dir})
 
-# Headers keep their folders; the trace object stays inside the library, and so does its header.
+# Headers keep their folders. The trace object and the forwarders of the tree stay inside the library, and so do the
+# headers that need them.
 install(
   DIRECTORY platform/
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QORPlatform
@@ -29,8 +33,10 @@ install(
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VXMBomInfrastructure
   FILES_MATCHING
   PATTERN "*.h"
-  PATTERN VXMBomViewerTrace.h EXCLUDE)
-install(DIRECTORY planner/model planner/file DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/planner
+  PATTERN VXMBomViewerTrace.h EXCLUDE
+  PATTERN VXMTraceMarks.h EXCLUDE
+  PATTERN "*Ties.h" EXCLUDE)
+install(DIRECTORY planner/model planner/file planner/edit DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/planner
         FILES_MATCHING PATTERN "*.h")
 
 configure_package_config_file(cmake/VXMBomInfrastructureConfig.cmake.in
