@@ -120,6 +120,9 @@ void PlanEditor::takeContents(FlowObject& top) {
 
 void PlanEditor::rename(ModelObject& object, std::string name) {
     checkPlaced(plan(), object);
+    if (object.sort() == Sort::Behaviour) {
+        throw EditError(EditError::Fault::WrongSort, quoted(object) + " is a behaviour, which can't have a name");
+    }
     checkText(name);
     perform("Rename " + quoted(object), [&] {
         ownProcess(object);

@@ -68,7 +68,7 @@ public:
     /// Moves an activity, in its container or to another; the position counts without it. Links stay.
     void moveActivity(Activity& activity, FlowObject& container, std::size_t position = kAtEnd);
 
-    /// Gives any object a name of its own.
+    /// Gives an object a name of its own. Behaviours have none: a plan file has no place for it.
     void rename(ModelObject& object, std::string name);
 
     // Links between activities, resources and behaviours that have an id.

@@ -16,8 +16,14 @@ Item::Body& Item::makeBody() {
     return *body_;
 }
 
+void Item::setShape(std::optional<Shape> shape) {
+    Body& body = makeBody();
+    body.hadShape = body.hadShape || shape;
+    body.geometry.shape = std::move(shape);
+}
+
 QORStatus Item::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
-    if (geometry().shape && QORAnswer(iInterface, oInterface, body_->visible) >= 0) {
+    if (body_ && body_->hadShape && QORAnswer(iInterface, oInterface, body_->visible) >= 0) {
         return QOR_OK;
     }
     const QORStatus status = QORAnswer(iInterface, oInterface, item_);

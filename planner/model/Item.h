@@ -15,7 +15,8 @@ namespace planner {
 class Plan;
 
 /// Something that activities and resources list. This class alone is the kind "item": a tool, a jig. With a shape it
-/// can be seen in space.
+/// can be seen in space; an item that loses its shape goes on answering QORI3DGeoVisu, so that a view that shows it can
+/// still end that, but has neither shape nor place to give.
 class Item : public ModelObject {
 public:
     explicit Item(ItemKind kind = ItemKind::Item) : ModelObject(Sort::Item), kind_(kind) {}
@@ -26,7 +27,7 @@ public:
     virtual bool answersProduct() const { return false; }
 
     const Geometry& geometry() const;
-    void setShape(std::optional<Shape> shape) { makeBody().geometry.shape = std::move(shape); }
+    void setShape(std::optional<Shape> shape);
     void setPlace(std::optional<Place> place) { makeBody().geometry.place = std::move(place); }
 
     QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
@@ -35,7 +36,7 @@ public:
     // Answer of QORISPPItem, and of VXMIMfgAssembly.
     QORUnicodeString GetName() const { return platformText(name()); }
 
-    // Answers of QORI3DGeoVisu.
+    // Answers of QORI3DGeoVisu. Without a shape they fail and leave the argument alone.
     QORStatus GetShape(QORGeoShape& oShape) const;
     QORStatus GetPlace(QORGeoPlace& oPlace) const;
 
@@ -46,6 +47,7 @@ private:
     struct Body {
         explicit Body(Item* item) : visible(item) {}
         Geometry geometry;
+        bool hadShape = false;
         QORI3DGeoVisuTie<Item> visible;
     };
 
