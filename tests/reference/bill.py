@@ -1,5 +1,7 @@
 """From the flow graph to the bill: the tree of MBOM nodes, its cleaning, and the elements that are shown."""
 
+from itertools import chain, takewhile
+
 from flow_nodes import NT_LOADING
 from plan_model import cast
 
@@ -20,6 +22,10 @@ def used_lists(flow_node):
     return [(kind, products) for kind, products in lists if use_products(flow_node, kind)]
 
 
+def is_assembly(product):
+    return cast(product, "VXMIMfgAssembly") is not None
+
+
 class MbomNode:
     def __init__(self, product, number, assignment_type, removable, trace):
         trace.spend()
@@ -34,9 +40,14 @@ class MbomNode:
         if product is not None:
             trace.node_line(self)
 
+    def descendants(self):
+        for child in self.successors:
+            yield child
+            yield from child.descendants()
+
 
 class Bill:
-    """One computation on the graph of a walk; `bom` gives the elements below the document's root."""
+    """One computation on the graph of a walk; the elements of the bill are those below the top node."""
 
     def __init__(self, settings, trace):
         self.settings = settings
@@ -49,17 +60,14 @@ class Bill:
         """Makes the tree from the end of the flow and runs the passes of the algorithm in use."""
         self.top = MbomNode(None, 0, AT_TOP, True, self.trace)
         self.nodes[AT_TOP].append(self.top)
+        self.create_mbom(last_flow_node, self.top, 1, [])
         if self.settings.legacy:
-            self.create_old_mbom(last_flow_node, self.top, 1, [])
-            passes = (self.clean_remove_assignments, lambda: self.clean_1(self.top, {}),
-                      lambda: self.clean_2(self.top))
+            passes = lambda: self.clean_1(self.top, {}), lambda: self.clean_2(self.top)
         else:
-            self.create_mbom(last_flow_node, self.top, 1, [])
-            passes = (self.clean_remove_assignments, self.clean_process_assignments,
-                      lambda: self.clean_3(self.top, {}))
+            passes = lambda: self.clean_assignments(AT_PROCESS, False), lambda: self.clean_3(self.top, {})
         self.trace_names()
         self.trace_links()
-        for clean in passes:
+        for clean in (lambda: self.clean_assignments(AT_REMOVE, True), *passes):
             clean()
             self.trace_links()
 
@@ -73,46 +81,9 @@ class Bill:
     # Building
 
     def create_mbom(self, flow_node, parent, number, path):
+        """Makes the nodes of a step, then those of the steps before it: by the older rules under its first output."""
         self.trace.spend()
-        self.trace.line("--> VXMBomGenerator::CreateMBOM ")
-        for assignment_type, products in used_lists(flow_node):
-            for product in products:
-                node = self.new_node(product, number, assignment_type, True, parent)
-                number += 1
-                if assignment_type != AT_FASTENER:
-                    number = self.create_product_children(node, number, [])
-        for predecessor in flow_node.predecessors:
-            if predecessor not in path + [flow_node]:
-                self.create_mbom(predecessor, parent, number, path + [flow_node])
-
-    def create_product_children(self, node, number, path):
-        """Makes the structure below a node and gives the number to go on with."""
-        product = node.product
-        entries = None
-        if cast(product, "VXMIMfgAssembly") is not None:
-            if product not in path:
-                entries = product.holds
-        elif cast(product, "QORIProduct") is not None:
-            if not self.comes_round(product, path):
-                entries = product.children
-        for entry in entries or []:
-            child = self.new_node(entry, number + 1, node.assignment_type, False, node)
-            number = self.create_product_children(child, number + 1, path + [product])
-        return number
-
-    @staticmethod
-    def comes_round(product, path):
-        """Whether a plain product was expanded on the path with only plain products since."""
-        for entry in reversed(path):
-            if cast(entry, "VXMIMfgAssembly") is not None:
-                return False
-            if entry is product:
-                return True
-        return False
-
-    def create_old_mbom(self, flow_node, parent, number, path):
-        self.trace.spend()
-        self.trace.line("--> VXMBomGenerator::CreateOldMBOM ")
+        self.trace.line(f"--> VXMBomGenerator::Create{'Old' if self.settings.legacy else ''}MBOM ")
         current_parent = parent
         for assignment_type, products in used_lists(flow_node):
             for position, product in enumerate(products, 1):
@@ -120,75 +91,55 @@ class Bill:
                 node = self.new_node(product, number, assignment_type, True, above)
                 number += 1
                 if assignment_type != AT_FASTENER:
-                    number = self.create_old_ma_children(node, number, [])
-                if assignment_type == AT_CREATE and position == 1:
+                    number = self.create_children(node, number, [])
+                if self.settings.legacy and assignment_type == AT_CREATE and position == 1:
                     current_parent = node
         for predecessor in flow_node.predecessors:
             if predecessor not in path + [flow_node]:
-                self.create_old_mbom(predecessor, current_parent, number, path + [flow_node])
+                self.create_mbom(predecessor, current_parent, number, path + [flow_node])
 
-    def create_old_ma_children(self, node, number, path):
-        assembly = cast(node.product, "VXMIMfgAssembly")
-        if assembly is None or assembly in path:
-            return number
-        for entry in assembly.holds or []:
-            child = self.new_node(entry, number + 1, node.assignment_type, True, node)
-            number = self.create_old_ma_children(child, number + 1, path + [assembly])
+    def create_children(self, node, number, path):
+        """Makes the structure below a node and gives the number to go on with."""
+        for entry in self.entries_of(node.product, path):
+            child = self.new_node(entry, number + 1, node.assignment_type, self.settings.legacy, node)
+            number = self.create_children(child, number + 1, path + [node.product])
         return number
+
+    def entries_of(self, product, path):
+        """What a product unfolds to: an assembly once on a path, a plain product once between two assemblies."""
+        if is_assembly(product):
+            return [] if product in path else product.holds or []
+        if self.settings.legacy or cast(product, "QORIProduct") is None:
+            return []
+        plain = takewhile(lambda entry: not is_assembly(entry), reversed(path))
+        return [] if product in plain else product.children or []
 
     # Cleaning
 
-    def clean_remove_assignments(self):
-        self.clean_entry(AT_REMOVE, self.check_previous_assignments)
-
-    def clean_process_assignments(self):
-        self.clean_entry(AT_PROCESS, self.check_previous_fp_assignments)
-
-    def clean_entry(self, assignment_type, check):
+    def clean_assignments(self, assignment_type, with_partner):
+        """Takes out the nodes of a type that have a partner, and the partners where they are to go as well."""
         entry = self.nodes[assignment_type]
         position, count = 0, len(entry)
         while position < count:
-            if check(entry[position]):
-                count -= 1
-            else:
+            node = entry[position]
+            partner = self.find_partner(node)
+            if partner is None:
                 position += 1
-
-    def check_previous_assignments(self, node):
-        partner = self.find_partner(node)
-        if partner is None:
-            return False
-        self.remove_node(partner)
-        self.remove_node(node)
-        self.removed_ids.append(node.identity)
-        return True
-
-    def check_previous_fp_assignments(self, node):
-        if self.find_partner(node) is None:
-            return False
-        self.remove_node(node)
-        return True
+                continue
+            if with_partner:
+                self.remove_node(partner)
+                self.removed_ids.append(node.identity)
+            self.remove_node(node)
+            count -= 1
 
     def find_partner(self, node):
+        """An assignment beside the node of the same product, else the first below it of its own parent's product."""
         if not any(other.identity == node.identity for kind in ASSIGNMENTS for other in self.nodes[kind]):
             return None
-        return self.search_siblings(node) or self.search_subtree(node)
-
-    @staticmethod
-    def search_siblings(node):
-        for other in node.predecessor.successors:
-            if (other is not node and other.identity == node.identity
-                    and other.assignment_type in ASSIGNMENTS):
-                return other
-        return None
-
-    def search_subtree(self, node):
-        for child in node.successors:
-            if child.identity == node.identity and child.assignment_type in ASSIGNMENTS:
-                return child
-            found = self.search_subtree(child)
-            if found is not None:
-                return found
-        return None
+        beside = (other for other in node.predecessor.successors
+                  if other is not node and other.identity == node.identity)
+        below = (other for other in node.descendants() if other.identity == other.predecessor.identity)
+        return next((other for other in chain(beside, below) if other.assignment_type in ASSIGNMENTS), None)
 
     def clean_1(self, node, seen):
         self.clean_successors(node, seen, self.remove_node, lambda child: self.clean_3(child, seen))
@@ -227,35 +178,25 @@ class Bill:
 
     def remove_node_and_children(self, node):
         node.predecessor.successors.remove(node)
-        self.unregister_subtree(node)
-
-    def unregister_subtree(self, node):
-        for child in node.successors:
-            self.unregister_subtree(child)
-        self.nodes[node.assignment_type].remove(node)
+        for gone in (node, *node.descendants()):
+            self.nodes[gone.assignment_type].remove(gone)
 
     # Output
-
-    def bom(self):
-        return self.elements_below(self.top)
 
     def elements_below(self, node):
         elements = []
         for child in node.successors:
             tag = self.tag_of(child)
             below = self.elements_below(child)
-            if tag is None:
-                elements += below
-            else:
-                elements.append({"tag": tag, "name": child.name, "object": child.product.key, "children": below})
+            elements += below if tag is None else [
+                {"tag": tag, "name": child.name, "object": child.product.key, "children": below}]
         return elements
 
     def tag_of(self, node):
-        if node.assignment_type in (AT_CREATE, AT_FIRST_ASSIGN):
-            return "BOMNode"
-        if node.assignment_type == AT_PROCESS and node.identity in self.removed_ids:
-            return "BOMNode"
-        return "BOMFastener" if node.assignment_type == AT_FASTENER else None
+        if node.assignment_type == AT_FASTENER:
+            return "BOMFastener"
+        was_removed = node.assignment_type == AT_PROCESS and node.identity in self.removed_ids
+        return "BOMNode" if was_removed or node.assignment_type in (AT_CREATE, AT_FIRST_ASSIGN) else None
 
     def trace_names(self):
         self.trace.line("--- TRACE 1 ---")

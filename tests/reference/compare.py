@@ -1,12 +1,12 @@
 """Holds the planner against the reference on random plans: the bill, and the trace byte for byte.
 
-    python3 compare.py --planner PATH --plans N --seed S [--legacy] [--resources] [--keep DIR]
+    python3 compare.py --planner PATH --plans N --seed S [--legacy] [--resources]
 
-Prints one line when all runs are equal; else the first few differences, and exits with 1. With --keep the
-plans that differ are written to DIR.
+Prints one line when all runs are equal; else the first few differences, and exits with 1.
 """
 
 import argparse
+import difflib
 import itertools
 import json
 import os
@@ -39,12 +39,10 @@ class Case:
         return Settings(fastener_types(self.fasteners), not self.unassigned_fasteners, self.legacy)
 
     def arguments(self):
-        arguments = ["--root", self.root] if self.root else []
-        if self.fasteners != "all":
-            arguments += ["--fasteners", self.fasteners]
-        if self.unassigned_fasteners:
-            arguments.append("--unassigned-fasteners")
-        return arguments + (["--legacy"] if self.legacy else [])
+        return ((["--root", self.root] if self.root else [])
+                + (["--fasteners", self.fasteners] if self.fasteners != "all" else [])
+                + (["--unassigned-fasteners"] if self.unassigned_fasteners else [])
+                + (["--legacy"] if self.legacy else []))
 
 
 @dataclass
@@ -71,22 +69,19 @@ class Planner:
             file.write(text)
 
     def run(self, case):
-        if os.path.exists(self.trace_file):
-            os.remove(self.trace_file)
         command = [self.path, "bom", self.plan_file, *case.arguments(),
                    "--format", "json", "--trace", self.trace_file]
         try:
             done = subprocess.run(command, capture_output=True, env=self.environment, close_fds=False,
-                                  timeout=RUN_SECONDS, check=False)
-        except subprocess.TimeoutExpired:
-            return Outcome(failure=f"no end after {RUN_SECONDS} seconds")
-        if done.returncode != 0:
-            return Outcome(failure=f"exit status {done.returncode}: {done.stderr.decode(errors='replace')}")
-        try:
+                                  timeout=RUN_SECONDS, check=True)
             with open(self.trace_file, encoding="utf-8", newline="") as file:
-                return Outcome(json.loads(done.stdout), file.read())
-        except (OSError, ValueError) as error:
-            return Outcome(failure=f"output can't be read: {error}")
+                outcome = Outcome(json.loads(done.stdout), file.read())
+            os.remove(self.trace_file)
+            return outcome
+        except subprocess.CalledProcessError as error:
+            return Outcome(failure=f"{error}: {error.stderr.decode(errors='replace')}")
+        except (subprocess.TimeoutExpired, OSError, ValueError) as error:
+            return Outcome(failure=str(error))
 
 
 def make_cases(rng, plan, resources, legacy):
@@ -112,8 +107,8 @@ def make_fasteners(rng):
 
 
 def reference_outcome(plan, case):
-    result = analyse(plan, case.root, case.settings(), WORK_LIMIT)
-    return Outcome({"bom": result.bom}, result.trace)
+    bom, trace = analyse(plan, case.root, case.settings(), WORK_LIMIT)
+    return Outcome({"bom": bom}, trace)
 
 
 def usable_plans(seed, resources, legacy):
@@ -131,37 +126,18 @@ def usable_plans(seed, resources, legacy):
         yield index, text, runs
 
 
-def first_difference(expected, actual):
-    """The lines around the first place where two traces part, the reference's first."""
-    pairs = itertools.zip_longest(expected.split("\n"), actual.split("\n"), fillvalue="(end of trace)")
-    for number, (ours, theirs) in enumerate(pairs, 1):
-        if ours != theirs:
-            before = expected.split("\n")[max(0, number - 4):number - 1]
-            return "".join(f"    {line}\n" for line in before) + (
-                f"  line {number}\n    reference: {ours!r}\n    planner:   {theirs!r}\n")
-    return ""
+def traces_apart(expected, actual):
+    """The lines from shortly before the first place where two traces part, the reference's marked by a minus."""
+    return "\n".join(itertools.islice(difflib.unified_diff(expected.split("\n"), actual.split("\n"), lineterm=""), 12))
 
 
 def describe(index, case, text, expected, actual):
-    """A difference for a person to read, empty when there is none."""
-    if (actual.failure, actual.bom, actual.trace) == ("", expected.bom, expected.trace):
-        return ""
-    lines = [f"plan {index}, options: {' '.join(case.arguments())}",
-             json.dumps(json.loads(text), ensure_ascii=False)]
-    if actual.failure:
-        lines.append(actual.failure)
-    else:
-        if actual.trace != expected.trace:
-            lines += ["traces differ:", first_difference(expected.trace, actual.trace)]
-        lines += [f"reference: {json.dumps(expected.bom, ensure_ascii=False)}",
-                  f"planner:   {json.dumps(actual.bom, ensure_ascii=False)}"]
-    return "\n".join(lines)
-
-
-def keep(folder, index, text):
-    os.makedirs(folder, exist_ok=True)
-    with open(os.path.join(folder, f"{index}.plan.json"), "w", encoding="utf-8") as file:
-        file.write(text)
+    """A difference for a person to read."""
+    return "\n".join([f"plan {index}, options: {' '.join(case.arguments())}",
+                      json.dumps(json.loads(text), ensure_ascii=False),
+                      actual.failure or traces_apart(expected.trace, actual.trace),
+                      f"reference: {json.dumps(expected.bom, ensure_ascii=False)}",
+                      f"planner:   {json.dumps(actual.bom, ensure_ascii=False)}\n"])
 
 
 def compare_all(options):
@@ -174,14 +150,11 @@ def compare_all(options):
             planner.write(text)
             for case, expected in runs:
                 runs_made += 1
-                report = describe(index, case, text, expected, planner.run(case))
-                if not report:
-                    continue
-                differences += 1
-                if options.keep:
-                    keep(options.keep, index, text)
-                if differences <= DIFFERENCES_SHOWN:
-                    print(report + "\n")
+                actual = planner.run(case)
+                if actual != expected:
+                    differences += 1
+                    if differences <= DIFFERENCES_SHOWN:
+                        print(describe(index, case, text, expected, actual))
     return runs_made, differences
 
 
@@ -192,7 +165,6 @@ def main():
     parser.add_argument("--seed", default="1")
     parser.add_argument("--legacy", action="store_true")
     parser.add_argument("--resources", action="store_true")
-    parser.add_argument("--keep", metavar="DIR")
     options = parser.parse_args()
     runs_made, differences = compare_all(options)
     outcome = f"{differences} differ" if differences else "all equal"

@@ -60,8 +60,7 @@ class FlowNode:
         trace.spend()
         self.settings = settings
         self.trace = trace
-        self.predecessors = []
-        self.successors = []
+        self.predecessors, self.successors = [], []
         self.activity = activity
         self.name = activity.name
         self.identity = activity.identity
@@ -73,10 +72,8 @@ class FlowNode:
         trace.node_line(self)
 
     def classify(self):
-        for model_type, node_type in NODE_TYPES:
-            if self.activity.is_of_type(model_type):
-                return node_type
-        return NT_ACTIVITY
+        return next((node_type for model_type, node_type in NODE_TYPES if self.activity.is_of_type(model_type)),
+                    NT_ACTIVITY)
 
     def show_fasteners(self, items):
         """Takes the fasteners that the settings show; the process type of every fastener is traced."""
@@ -93,6 +90,14 @@ class FlowNode:
 
 class ProcessFlowNode(FlowNode):
     """The node of an activity."""
+
+    @property
+    def flow(self):
+        return self.activity
+
+    def below(self):
+        """The children to walk, and whether those without any link are left out."""
+        return self.activity.children or [], True
 
     def stands_in_station(self):
         above = self.activity.parent
@@ -115,6 +120,19 @@ class ResourceFlowNode(FlowNode):
 
     def stands_in_station(self):
         return False
+
+    @property
+    def flow(self):
+        """What the links are read from: the behaviour where it has a flow of its own."""
+        return cast(self.activity.behaviour, "VXMIResourceFlowMgmt") or self.activity
+
+    def below(self):
+        behaviour = self.activity.behaviour
+        if behaviour is None:
+            return [], False
+        if behaviour.activities is not None:
+            return behaviour.activities, False
+        return self.activity.children or [], True
 
     def assign_products_and_fasteners(self):
         behaviour = self.activity.behaviour

@@ -2,7 +2,7 @@
 
 Both walks have one shape, which stands in `FlowWalk`: the children of a node are walked before it, each
 flow among them from what came before the node; then the node is linked behind the end of the child flow
-walked last; then its own successors are followed. The subclasses say where children and successors are.
+walked last; then its own successors are followed. The subclasses say what becomes a node and which links they know.
 """
 
 from flow_nodes import ProcessFlowNode, ResourceFlowNode
@@ -49,12 +49,9 @@ class FlowWalk:
     def first_flow_node(self, item):
         """Back along first predecessors to the start, or to the first item that is met a second time."""
         met = []
-        while item not in met:
+        while item not in met and self.has_flow(item) and item.predecessors():
             met.append(item)
-            predecessors = self.predecessors_of(item)
-            if not predecessors:
-                return item
-            item = predecessors[0]
+            item = item.predecessors()[0]
         return item
 
     def check_flow(self, previous, current, level):
@@ -66,7 +63,10 @@ class FlowWalk:
         if current is None:
             return previous
         self.trace_flow()
-        last = self.walk_children(previous, current, level)
+        last = previous
+        children, drop_standalone = current.below()
+        for child in children:
+            last = self.visit_child(previous, last, child, level, drop_standalone)
         self.trace_flow()
         if last is not None:
             last.successors.append(current)
@@ -99,7 +99,7 @@ class FlowWalk:
         """Whether a visit of this child is open and no object has got its first node since it began."""
         return (child, len(self.by_id)) in self.open_visits
 
-    def visit_successor(self, current, last, successor, level, register_missing):
+    def visit_successor(self, current, last, successor, level):
         if cast(successor, "QORISPPAbstractActivity") is not None:
             self.trace.line(f"Name: {successor.name}")
         known = self.check_use(successor)
@@ -109,20 +109,18 @@ class FlowWalk:
             self.trace_pair("**", current, known)
             return self.last_node_in_flow(current)
         node = self.create_flow_node(successor)
-        if node is None and not register_missing:
+        if node is None and not current.is_resource:
             return last
         self.update_lists(node)
         return self.check_flow(current, node, level)
 
-    def predecessors_of(self, item):
-        flow = cast(item, "QORISPPFlowMgt")
-        return None if flow is None else flow.activity_predecessors()
-
-    def walk_children(self, previous, current, level):
-        last = previous
-        for child in current.activity.children or []:
-            last = self.visit_child(previous, last, child, level, True)
+    def walk_successors(self, current, last, level):
+        for successor in current.flow.successors() if level > 0 else []:
+            last = self.visit_successor(current, last, successor, level)
         return last
+
+    def has_flow(self, item):
+        return any(cast(item, interface) is not None for interface in self.FLOWS)
 
     def trace_pair(self, mark, earlier, later):
         self.trace.line(f"{mark}Predecessor: {earlier.name}")
@@ -152,24 +150,20 @@ class FlowWalk:
 class ProcessWalk(FlowWalk):
     """The walk of a tree of activities."""
 
+    FLOWS = ("QORISPPFlowMgt",)
+
     def create_flow_node(self, item):
         return ProcessFlowNode(item, self.counter, self.settings, self.trace)
 
     def is_standalone_logical_node(self, item):
-        if cast(item, "QORISPPActivity") is not None:
-            return False
-        flow = cast(item, "QORISPPFlowMgt")
-        return flow is not None and not flow.activity_predecessors() and not flow.activity_successors()
-
-    def walk_successors(self, current, last, level):
-        if level > 0:
-            for successor in current.activity.activity_successors():
-                last = self.visit_successor(current, last, successor, level, False)
-        return last
+        is_logical = cast(item, "QORISPPActivity") is None and self.has_flow(item)
+        return is_logical and not item.predecessors() and not item.successors()
 
 
 class ResourceWalk(FlowWalk):
     """The walk of a resource, whose graph holds nodes of resources and of activities."""
+
+    FLOWS = ("VXMIResourceFlowMgmt", "QORISPPFlowMgt")
 
     def create_flow_node(self, item):
         if cast(item, "VXMIResourceBehaviorManager") is not None:
@@ -179,53 +173,9 @@ class ResourceWalk(FlowWalk):
         return None
 
     def is_standalone_logical_node(self, item):
-        resource_flow = cast(item, "VXMIResourceFlowMgmt")
-        if resource_flow is not None:
-            return not resource_flow.flow_predecessors() and not resource_flow.flow_successors()
-        flow = cast(item, "QORISPPFlowMgt")
-        if flow is not None:
-            return not flow.activity_predecessors() and not flow.activity_successors()
-        return True
-
-    def predecessors_of(self, item):
-        resource_flow = cast(item, "VXMIResourceFlowMgmt")
-        if resource_flow is not None:
-            return resource_flow.flow_predecessors()
-        return super().predecessors_of(item)
-
-    def walk_children(self, previous, current, level):
-        if current.is_resource:
-            return self.walk_resource_children(previous, current, level)
-        return super().walk_children(previous, current, level)
-
-    def walk_resource_children(self, previous, current, level):
-        last = previous
-        resource = current.activity
-        if resource.behaviour is None:
-            return last
-        activities = resource.behaviour.activities
-        if activities is not None:
-            for child in activities:
-                last = self.visit_child(previous, last, child, level, False)
-            return last
-        for child in resource.children or []:
-            last = self.visit_child(previous, last, child, level, True)
-        return last
+        return not self.has_flow(item) or not item.predecessors() and not item.successors()
 
     def walk_successors(self, current, last, level):
-        if current.is_resource:
-            return self.walk_resource_successors(current, last, level)
-        if level <= 0:
-            return last
-        if last is None:
+        if last is None and level > 0 and not current.is_resource:
             last = current
-        for successor in current.activity.activity_successors():
-            last = self.visit_successor(current, last, successor, level, False)
-        return last
-
-    def walk_resource_successors(self, current, last, level):
-        flow = cast(current.activity.behaviour, "VXMIResourceFlowMgmt") or current.activity
-        if level > 0:
-            for successor in flow.flow_successors() or []:
-                last = self.visit_successor(current, last, successor, level, True)
-        return last
+        return super().walk_successors(current, last, level)

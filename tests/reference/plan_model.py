@@ -1,12 +1,10 @@
 """The model that a plan file describes: items, activities, resources, behaviours and their links.
 
-Every object says which interfaces it answers; `cast` asks it. A list that the file leaves out is None,
-an empty one is []. The plan is taken to be valid: a faulty one ends in a plain Python error.
+Every object says which of the interfaces that matter here it answers; `cast` asks it. A list that the file leaves
+out is None, an empty one is []. The plan is taken to be valid: a faulty one ends in a plain Python error.
 """
 
-ACTIVITY_INTERFACES = frozenset({
-    "QORISPPActivity", "QORISPPAbstractActivity", "QORISpecObject", "QORISPPChildManagement",
-    "QORISPPFlowMgt", "QORISPPItemMgt"})
+ACTIVITY_INTERFACES = {"QORISPPActivity", "QORISPPAbstractActivity", "QORISpecObject", "QORISPPFlowMgt"}
 
 ACTIVITY_TYPES = {
     "activity": ("PhysicalActivity",),
@@ -16,10 +14,10 @@ ACTIVITY_TYPES = {
     "logical": ()}
 
 ITEM_INTERFACES = {
-    "product": {"QORIProduct", "QORISPPItem"},
-    "assembly": {"VXMIMfgAssembly", "QORISPPItem"},
-    "fastener": {"VXMIBIWFastener", "QORISPPItem"},
-    "item": {"QORISPPItem"}}
+    "product": {"QORIProduct"},
+    "assembly": {"VXMIMfgAssembly"},
+    "fastener": {"VXMIBIWFastener"},
+    "item": set()}
 
 
 def cast(obj, interface):
@@ -35,11 +33,17 @@ class ModelObject:
     def __init__(self, data, interfaces):
         self.key = data.get("id")
         self.name = data.get("name", self.key)
-        self.interfaces = frozenset(interfaces)
+        self.interfaces = interfaces
         self.data = data
         self.identity = 0
         self.linked_from = []
         self.linked_to = []
+
+    def predecessors(self):
+        return self.linked_from
+
+    def successors(self):
+        return self.linked_to
 
     def resolve(self, find):
         """Sets an attribute for each list of ids: the objects that `find` gives for it."""
@@ -51,10 +55,8 @@ class Item(ModelObject):
     ID_LISTS = ("children", "holds")
 
     def __init__(self, data):
-        interfaces = set(ITEM_INTERFACES[data["kind"]])
-        if data["kind"] == "assembly" and "children" in data:
-            interfaces.add("QORIProduct")
-        super().__init__(data, interfaces)
+        expands = data["kind"] == "assembly" and "children" in data
+        super().__init__(data, ITEM_INTERFACES[data["kind"]] | ({"QORIProduct"} if expands else set()))
         self.process_type = data.get("type", "")
         self.is_assigned = data.get("assigned", True)
 
@@ -64,8 +66,7 @@ class Activity(ModelObject):
 
     def __init__(self, data, parent):
         kind = data.get("kind", "activity")
-        concrete = ACTIVITY_INTERFACES - ({"QORISPPActivity"} if kind == "logical" else set())
-        super().__init__(data, concrete)
+        super().__init__(data, ACTIVITY_INTERFACES - ({"QORISPPActivity"} if kind == "logical" else set()))
         self.parent = parent
         self.model_types = ACTIVITY_TYPES[kind]
         self.type = data.get("type", self.model_types[0] if self.model_types else "Logical")
@@ -79,38 +80,24 @@ class Activity(ModelObject):
         lists = (self.first_assigned, self.assigned, self.removed, self.items)
         return list(dict.fromkeys(item for entries in lists for item in entries or []))
 
-    def activity_predecessors(self):
+    def predecessors(self):
         return [obj for obj in self.linked_from if isinstance(obj, Activity)]
 
-    def activity_successors(self):
+    def successors(self):
         return [obj for obj in self.linked_to if isinstance(obj, Activity)]
 
 
-class ResourceFlowMember(ModelObject):
-    """A resource or a behaviour: both views of its links are None where it has no link at all."""
-
-    def flow_predecessors(self):
-        return self.linked_from if self.linked_from or self.linked_to else None
-
-    def flow_successors(self):
-        return self.linked_to if self.linked_from or self.linked_to else None
-
-
-class Behaviour(ResourceFlowMember):
+class Behaviour(ModelObject):
     ID_LISTS = ("assigned", "outputs")
 
     def __init__(self, data):
-        interfaces = {"VXMIResourceBehavior", "VXMIResourceItemMgmt"}
-        if "id" in data:
-            interfaces.add("VXMIResourceFlowMgmt")
-        super().__init__(data, interfaces)
+        super().__init__(data, {"VXMIResourceFlowMgmt"} if "id" in data else set())
         self.activities = None
 
 
-class Resource(ResourceFlowMember):
+class Resource(ModelObject):
     def __init__(self, data):
-        super().__init__(data, {"QORIProduct", "VXMIResourceBehaviorManager", "VXMIResourceFlowMgmt",
-                                "QORISpecObject"})
+        super().__init__(data, {"VXMIResourceBehaviorManager", "VXMIResourceFlowMgmt", "QORISpecObject"})
         self.behaviour = None
         self.children = None
 

@@ -20,19 +20,14 @@ class PlanMaker:
         self.wild = rng.random() < 0.35
         self.wild_structure = rng.random() < 0.2
         self.dense = rng.random() < 0.06
-        self.item_keys = []
-        self.product_keys = []
-        self.removal_keys = []
-        self.linkable = []
-        self.links = []
+        self.item_keys, self.product_keys, self.removal_keys = [], [], []
+        self.linkable, self.links = [], []
         self.counts = {}
 
     def make(self):
-        plan = {"version": 1, "plan": self.text()}
-        plan["items"] = self.items()
-        process_size = self.size() if not self.with_resources else self.rng.randint(1, 4)
-        if self.chance(0.97) if not self.with_resources else self.chance(0.6):
-            plan["process"] = self.process(process_size)
+        plan = {"version": 1, "plan": self.text(), "items": self.items()}
+        if self.chance(0.6 if self.with_resources else 0.97):
+            plan["process"] = self.process(self.rng.randint(1, 4) if self.with_resources else self.size())
         if self.with_resources or self.chance(0.1):
             plan["resources"] = self.resources(self.rng.randint(1, 2), 0)
         self.add_wild_links()
@@ -42,7 +37,7 @@ class PlanMaker:
             plan["links"] = self.links
         if self.chance(0.05):
             plan["notes"] = {"any": [1, None, {"thing": True}]}
-        return self.shuffled(plan) if self.chance(0.05) else plan
+        return dict(self.rng.sample(list(plan.items()), len(plan))) if self.chance(0.05) else plan
 
     # Small choices
 
@@ -55,14 +50,13 @@ class PlanMaker:
     def text(self):
         return self.rng.choice(NAMES)
 
-    def shuffled(self, data):
-        keys = list(data)
-        self.rng.shuffle(keys)
-        return {key: data[key] for key in keys}
-
     def new_key(self, letter):
         self.counts[letter] = self.counts.get(letter, 0) + 1
         return f"{letter}{self.counts[letter]}"
+
+    def linkable_key(self, letter):
+        self.linkable.append(self.new_key(letter))
+        return self.linkable[-1]
 
     def named(self, data):
         """Gives an object a name now and then, one that others may bear as well."""
@@ -120,10 +114,8 @@ class PlanMaker:
     def grow(self, root, activities, count):
         """Hangs activities below the given ones, then links the siblings of each parent."""
         for _ in range(count):
-            if self.dense and self.chance(0.8):
-                parent = root
-            else:
-                parent = self.rng.choice(activities[-3:] if self.chance(0.4) else activities)
+            parent = self.rng.choice([root] if self.dense and self.chance(0.8) else
+                                     activities[-3:] if self.chance(0.4) else activities)
             child = self.activity(1, in_station=parent.get("kind") == "station")
             parent.setdefault("children", []).append(child)
             activities.append(child)
@@ -136,8 +128,7 @@ class PlanMaker:
                 activity["children"] = []
 
     def activity(self, fill, in_station=False):
-        data = self.named({"id": self.new_key("a")})
-        self.linkable.append(data["id"])
+        data = self.named({"id": self.linkable_key("a")})
         if in_station and self.chance(0.5):
             data["kind"] = "loading"
         elif self.chance(0.45):
@@ -161,8 +152,7 @@ class PlanMaker:
         return made
 
     def resource(self, depth):
-        data = self.named({"id": self.new_key("r")})
-        self.linkable.append(data["id"])
+        data = self.named({"id": self.linkable_key("r")})
         if self.chance(0.85):
             data["behaviour"] = self.behaviour()
         if self.chance(0.85 - 0.3 * depth):
@@ -175,8 +165,7 @@ class PlanMaker:
     def behaviour(self):
         data = {}
         if self.chance(0.3):
-            data["id"] = self.new_key("b")
-            self.linkable.append(data["id"])
+            data["id"] = self.linkable_key("b")
         if self.chance(0.35):
             data["activities"] = self.behaviour_activities()
         self.put_list(data, "assigned", 0.75, self.item_keys)
@@ -184,10 +173,8 @@ class PlanMaker:
         return data
 
     def behaviour_activities(self):
-        if self.chance(0.1):
-            return []
-        root = {}
-        self.grow(root, [root], self.rng.randint(1, 4))
+        root = {"children": []}
+        self.grow(root, [root], 0 if self.chance(0.1) else self.rng.randint(1, 4))
         return root["children"]
 
     # Links
@@ -198,9 +185,7 @@ class PlanMaker:
         if style < 0.1:
             return
         for position, key in enumerate(keys[1:], 1):
-            if style < 0.6:
-                self.links.append([keys[position - 1], key])
-            elif style < 0.7 and self.chance(0.7):
+            if style < 0.6 or style < 0.7 and self.chance(0.7):
                 self.links.append([keys[position - 1], key])
             elif style >= 0.7:
                 near = keys[max(0, position - 3):position] if self.dense else keys[:position]
@@ -210,13 +195,13 @@ class PlanMaker:
     def add_wild_links(self):
         if not self.linkable or not (self.wild or self.with_resources and self.chance(0.5)):
             return
-        resource_side = [key for key in self.linkable if key[0] in "rb"]
+        resource_side = [key for key in self.linkable if key[0] in "rb"] or self.linkable
         for _ in range(self.rng.randint(1, 4)):
             if self.links and self.chance(0.3):
                 source, target = self.rng.choice(self.links)
                 self.links.append([source, target] if self.chance(0.5) else [target, source])
             else:
-                pool = resource_side if resource_side and self.chance(0.6) else self.linkable
+                pool = resource_side if self.chance(0.6) else self.linkable
                 self.links.append([self.rng.choice(pool), self.rng.choice(pool)])
 
 
