@@ -165,11 +165,6 @@ std::vector<const ModelObject*> stepsFrom(const ModelObject& root) {
     return steps;
 }
 
-std::size_t countActivities(const std::vector<const ModelObject*>& steps) {
-    return static_cast<std::size_t>(std::count_if(
-        steps.begin(), steps.end(), [](const ModelObject* step) { return step->sort() == Sort::Activity; }));
-}
-
 std::optional<std::string> remarkOn(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps,
                                     bool billIsEmpty) {
     const auto reached = reachedBy(generator, *steps.front());

@@ -2,7 +2,6 @@
 
 #include "planner/model/Plan.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,9 +12,6 @@ namespace planner {
 
 /// The root of an analysis and the steps below it, activities and resources, logical nodes left out. The root is first.
 std::vector<const ModelObject*> stepsFrom(const ModelObject& root);
-
-/// Number of activities among them.
-std::size_t countActivities(const std::vector<const ModelObject*>& steps);
 
 /// What a person should know of a bill that is empty though steps list items, or that steps add nothing to since they
 /// lie on no path to the end of the plan: one line that says so and why. Ask it after the bill was computed.

@@ -20,7 +20,7 @@ namespace planner {
 
 namespace {
 
-/// Activities above which a trace is big enough to be warned of.
+/// Steps above which a trace is big enough to be warned of.
 constexpr std::size_t kLongTrace = 2000;
 
 /// Makes the generator for a root, as a window would; null for an object that is no root.
@@ -82,8 +82,8 @@ std::optional<Computed> computeTraced(ModelObject& root, const std::vector<const
         complain("--trace names the plan itself; expected another file");
         return std::nullopt;
     }
-    if (const std::size_t activities = countActivities(steps); activities > kLongTrace) {
-        complain("a trace of " + std::to_string(activities) + " activities is long: it grows with their square");
+    if (steps.size() > kLongTrace) {
+        complain("a trace of " + std::to_string(steps.size()) + " steps is long: it grows with their square");
     }
     TraceFile trace(*options.trace);
     if (const auto error = trace.startError()) {

@@ -179,13 +179,17 @@ TEST(Trace, GoesToItsFileAndIsOffOtherwise) {
 }
 
 TEST(Trace, OfALargePlanIsWarnedOf) {
-    std::string steps;
-    for (int i = 0; i < 2000; ++i) {
-        steps += (i > 0 ? ",{\"id\":\"a" : "{\"id\":\"a") + std::to_string(i) + "\"}";
-    }
-    const Outcome ran =
-        run("bom % --trace /dev/null", R"({"version":1,"process":{"id":"r","children":[)" + steps + "]}}");
-    EXPECT_EQ(ran.errors.find("planner: a trace of 2001 activities is long"), 0U) << ran.errors;
+    const auto thousand = [](const std::string& prefix) {
+        std::string steps;
+        for (int i = 0; i < 1000; ++i) {
+            steps += (i > 0 ? ",{\"id\":\"" : "{\"id\":\"") + prefix + std::to_string(i) + "\"}";
+        }
+        return steps;
+    };
+    const Outcome ran = run("bom % --root r --trace /dev/null",
+                            R"({"version":1,"resources":[{"id":"r","behaviour":{"id":"b","activities":[)" +
+                                thousand("a") + R"(]},"children":[)" + thousand("c") + "]}]}");
+    EXPECT_EQ(ran.errors.find("planner: a trace of 2001 steps is long"), 0U) << ran.errors;
 }
 
 TEST(Fmt, WritesInPlaceAndStaysAtThat) {
