@@ -8,6 +8,7 @@
 #include "generation/VXMBomGenerator.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -130,6 +131,9 @@ Offer offerOf(const std::vector<const ModelObject*>& steps) {
 }
 
 const char* reasonFor(const Offer& offer) {
+    if (!offer.anything) {
+        return "its steps list nothing";
+    }
     if (offer.brings) {
         return "whatever comes in is taken out again";
     }
@@ -147,6 +151,51 @@ std::string namesOf(const std::vector<const ModelObject*>& steps) {
         names += (i == 0 ? "" : ", ") + inQuotes(steps[i]->name());
     }
     return steps.size() <= kNamed ? names : names + " and " + std::to_string(steps.size() - kNamed) + " more";
+}
+
+/// Steps by whether links lead from them to the end of the flow. The root always counts as reached.
+struct Ways {
+    std::vector<const ModelObject*> reached;
+    std::vector<const ModelObject*> lost;
+};
+
+Ways waysOf(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps) {
+    const auto objects = reachedBy(generator, *steps.front());
+    Ways ways{{steps.front()}, {}};
+    std::partition_copy(steps.begin() + 1, steps.end(), std::back_inserter(ways.reached), std::back_inserter(ways.lost),
+                        [&](const ModelObject* step) { return objects.contains(step); });
+    return ways;
+}
+
+/// How many steps are lost, what comes of that, and which they are.
+std::string lossText(const Ways& ways, const char* effect) {
+    const std::size_t below = ways.reached.size() + ways.lost.size() - 1;
+    return std::to_string(ways.lost.size()) + " of " + std::to_string(below) + " steps " +
+           (ways.lost.size() == 1 ? "lies" : "lie") + " on no path of links to the end of the plan" + effect + ": " +
+           namesOf(ways.lost);
+}
+
+bool showsFastener(VXMBomGenerator& generator, const ModelObject& step) {
+    const QORBaseUnknown_var handle(const_cast<ModelObject*>(&step));
+    const VXMFabFlowNode* const node = generator.CheckUse(handle);
+    return node && node->GetNumberOfFasteners() > 0;
+}
+
+/// Lost steps are to blame only where the bill would have something from them. Nothing when no step lists anything,
+/// none being lost.
+std::optional<std::string> whyEmpty(VXMBomGenerator& generator, const Ways& ways) {
+    const std::string empty = "the bill is empty: ";
+    const Offer missed = offerOf(ways.lost);
+    if (missed.brings || std::any_of(ways.lost.begin(), ways.lost.end(),
+                                     [&](const ModelObject* step) { return showsFastener(generator, *step); })) {
+        return empty + lossText(ways, "");
+    }
+    const Offer offered = offerOf(ways.reached);
+    const char* const reason = reasonFor(offered.anything ? offered : missed);
+    if (!ways.lost.empty()) {
+        return empty + reason + "; " + lossText(ways, "");
+    }
+    return offered.anything ? std::optional(empty + reason) : std::nullopt;
 }
 
 } // namespace
@@ -167,26 +216,14 @@ std::vector<const ModelObject*> stepsFrom(const ModelObject& root) {
 
 std::optional<std::string> remarkOn(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps,
                                     bool billIsEmpty) {
-    const auto reached = reachedBy(generator, *steps.front());
-    std::vector<const ModelObject*> lost;
-    std::copy_if(steps.begin() + 1, steps.end(), std::back_inserter(lost),
-                 [&](const ModelObject* step) { return !reached.contains(step); });
-    const std::string count = std::to_string(lost.size()) + " of " + std::to_string(steps.size() - 1) + " steps ";
-    const std::string lie = lost.size() == 1 ? "lies" : "lie";
-    const std::string path = " on no path of links to the end of the plan";
-    if (!lost.empty() && billIsEmpty) {
-        return "the bill is empty: " + count + lie + path + ": " + namesOf(lost);
-    }
-    if (!lost.empty()) {
-        return count + lie + path + " and " + (lost.size() == 1 ? "adds" : "add") +
-               " nothing to the bill: " + namesOf(lost);
-    }
+    const Ways ways = waysOf(generator, steps);
     if (billIsEmpty) {
-        if (const Offer offer = offerOf(steps); offer.anything) {
-            return std::string("the bill is empty: ") + reasonFor(offer);
-        }
+        return whyEmpty(generator, ways);
     }
-    return std::nullopt;
+    if (ways.lost.empty()) {
+        return std::nullopt;
+    }
+    return lossText(ways, ways.lost.size() == 1 ? " and adds nothing to the bill" : " and add nothing to the bill");
 }
 
 } // namespace planner

@@ -132,7 +132,8 @@ class Remark : public testing::TestWithParam<std::array<const char*, 3>> {};
 TEST_P(Remark, IsOneLineAndNoError) {
     const auto& [name, process, remark] = GetParam();
     const Outcome ran = run("bom %", std::string(R"({"version": 1, "items": [{"id": "p", "kind": "product"},)") +
-                                         R"({"id": "f", "kind": "fastener", "type": "Bolt"}], )" + process + "}");
+                                         R"({"id": "f", "kind": "fastener", "type": "Bolt"},)" +
+                                         R"({"id": "g", "kind": "fastener", "type": "Rivet"}], )" + process + "}");
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(ran.errors, remark) << name;
 }
@@ -143,6 +144,19 @@ INSTANTIATE_TEST_SUITE_P(
         std::array{"NothingListed", R"("process": {"id": "r"})", ""},
         std::array{"LoneStep", R"("process": {"id": "r", "children": [{"id": "a", "first_assigned": ["p"]}]})",
                    "planner: the bill is empty: 1 of 1 steps lies on no path of links to the end of the plan: \"a\"\n"},
+        std::array{"LostStepsOfNoAccount",
+                   R"("process": {"id": "r", "children": [{"id": "s"}, {"id": "zz"}, {"id": "a", "assigned": ["p"]},)"
+                   R"({"id": "y"}]}, "links": [["s", "zz"], ["s", "a"], ["a", "y"]])",
+                   "planner: the bill is empty: its steps only work on items or remove them, and none brings one in; "
+                   "1 of 4 steps lies on no path of links to the end of the plan: \"zz\"\n"},
+        std::array{"LostFastener", R"("process": {"id": "r", "children": [{"id": "a", "items": ["g"]}]})",
+                   "planner: the bill is empty: 1 of 1 steps lies on no path of links to the end of the plan: \"a\"\n"},
+        std::array{"LostHiddenFastener", R"("process": {"id": "r", "children": [{"id": "a", "items": ["f"]}]})",
+                   "planner: the bill is empty: its steps bring in no product, and no fastener that they list is "
+                   "shown; 1 of 1 steps lies on no path of links to the end of the plan: \"a\"\n"},
+        std::array{"LostAndNothingListed", R"("process": {"id": "r", "children": [{"id": "a"}]})",
+                   "planner: the bill is empty: its steps list nothing; 1 of 1 steps lies on no path of links to the "
+                   "end of the plan: \"a\"\n"},
         std::array{
             "LostBranch",
             R"("process": {"id": "r", "outputs": ["p"], "children": [{"id": "a"}, {"id": "b"}, {"id": "c"}]},)"
