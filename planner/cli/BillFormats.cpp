@@ -41,22 +41,27 @@ std::size_t kindOf(const ModelObject& object) {
                                        : kKinds.size() - 1;
 }
 
-void treeLine(const BillElement& element, TextSink& sink) {
-    putReplaced(sink, element.name, [](char letter) -> const char* {
+/// A text as a part of a line: what would end the line or break its indentation is written out.
+void putInLine(TextSink& sink, std::string_view text) {
+    putReplaced(sink, text, [](char letter) -> const char* {
         return letter == '\n' ? "\\n" : letter == '\t' ? "\\t" : letter == '\r' ? "\\r" : nullptr;
     });
+}
+
+void treeLine(const BillElement& element, TextSink& sink) {
+    putInLine(sink, element.name);
     sink.put(" (");
     sink.put(kKinds[kindOf(*element.object)]);
     if (const auto* const fastener = dynamic_cast<const Fastener*>(element.object); fastener && fastener->type) {
         sink.put(", ");
-        sink.put(*fastener->type);
+        putInLine(sink, *fastener->type);
     }
     sink.put(')');
 }
 
 void writeTree(const Bill& bill, const std::string& title, TextSink& sink) {
     std::array<std::size_t, kKinds.size()> counts{};
-    sink.put(title);
+    putInLine(sink, title);
     for (const BillElement& element : bill) {
         sink.newLine(static_cast<std::size_t>(element.level));
         treeLine(element, sink);

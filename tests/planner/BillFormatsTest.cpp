@@ -16,11 +16,11 @@ namespace {
 
 class BillFormats : public testing::Test {
 protected:
-    std::string print(const Bill& bill, Format format) {
+    std::string print(const Bill& bill, Format format, const std::string& title = "Title") {
         const std::string path = makeFile("bill", "");
         std::FILE* const file = std::fopen(path.c_str(), "w");
         planner::TextSink sink(::fileno(file));
-        writeBill(bill, format, "Title", sink);
+        writeBill(bill, format, title, sink);
         EXPECT_EQ(sink.finish(), 0);
         std::fclose(file);
         return contentOf(path);
@@ -34,7 +34,8 @@ protected:
 
     std::unique_ptr<planner::Plan> plan_ = read(R"({"version": 1, "items": [
         {"id": "a", "kind": "assembly"}, {"id": "p", "kind": "product"}, {"id": "i", "kind": "item"},
-        {"id": "=p", "kind": "product"}, {"id": "f", "kind": "fastener", "type": "Rivet"}]})");
+        {"id": "=p", "kind": "product"}, {"id": "f", "kind": "fastener", "type": "Rivet"},
+        {"id": "g", "kind": "fastener", "type": "1\n2\t3"}]})");
 };
 
 TEST_F(BillFormats, SayTheSame) {
@@ -105,8 +106,8 @@ TEST_F(BillFormats, EscapeWhatTheyMust) {
         EXPECT_EQ(print(bill, Format::Csv),
                   "\xEF\xBB\xBFlevel,tag,name,object\r\n1,BOMNode," + std::string(each.csv) + ",'=p\r\n");
     }
-    EXPECT_EQ(print({element(1, "a\nb\tc", "i")}, Format::Tree),
-              "Title\n  a\\nb\\tc (item)\nTotal: 1 element: 1 item\n");
+    EXPECT_EQ(print({element(1, "a\nb\tc", "g")}, Format::Tree, "x\ry\n"),
+              "x\\ry\\n\n  a\\nb\\tc (fastener, 1\\n2\\t3)\nTotal: 1 element: 1 fastener\n");
 }
 
 TEST_F(BillFormats, IndentTwoHundredLevelsAndNoMore) {
