@@ -53,7 +53,6 @@ private:
     bool closeAside(char bracket);
     void endNotes();
     std::optional<Value> admit(JsonType type);
-    void open(Value value);
     void checkRequired(const Frame& frame);
     void endList(const Frame& frame);
     ValuePlace place(std::size_t offset) const;
