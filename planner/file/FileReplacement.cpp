@@ -20,6 +20,17 @@ unsigned defaultPermissions() {
     return 0666U & ~mask;
 }
 
+int setPermissions(int descriptor, unsigned permissions) {
+    return ::fchmod(descriptor, permissions) == 0 ? 0 : errno;
+}
+
+/// Gives a new file the owner and the permissions of the old one. Where the process may not give files away, the new
+/// one stays its own; the bits by which a program runs as its owner or group are then left out.
+int takeOver(int descriptor, const struct stat& old) {
+    const bool isGiven = ::fchown(descriptor, old.st_uid, old.st_gid) == 0;
+    return setPermissions(descriptor, old.st_mode & (isGiven ? 07777U : 0777U));
+}
+
 std::optional<std::string> message(int error) {
     if (error == 0) {
         return std::nullopt;
@@ -44,18 +55,19 @@ FileReplacement::FileReplacement(const std::string& path) : path_(path) {
     } else if (exists && ::access(path_.c_str(), W_OK) != 0) {
         error_ = errno;
     } else {
-        openTemporary(exists ? status.st_mode & 07777U : defaultPermissions());
+        openTemporary();
+        if (error_ == 0) {
+            error_ = exists ? takeOver(descriptor_, status) : setPermissions(descriptor_, defaultPermissions());
+        }
     }
 }
 
-void FileReplacement::openTemporary(unsigned permissions) {
+void FileReplacement::openTemporary() {
     temporary_ = path_ + ".XXXXXX";
     descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
     if (descriptor_ < 0) {
         error_ = errno;
         temporary_.clear();
-    } else if (::fchmod(descriptor_, permissions) != 0) {
-        error_ = errno;
     }
 }
 

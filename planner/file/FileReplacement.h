@@ -6,8 +6,9 @@
 namespace planner {
 
 /// A new content for a file, which appears under its name in one step and only when it is complete: it is written to
-/// another file of the same folder, which is then renamed. The permissions of the old file stay; a symbolic link goes
-/// on pointing to the file. What is no regular file, a device say, is written to directly.
+/// another file of the same folder, which is then renamed. The permissions of the old file stay, and its
+/// owner and group where the process may set them; a symbolic link goes on pointing to the file. What is no regular
+/// file, a device say, is written to directly.
 class FileReplacement {
 public:
     explicit FileReplacement(const std::string& path);
@@ -25,7 +26,7 @@ public:
     std::optional<std::string> commit(int writeError);
 
 private:
-    void openTemporary(unsigned permissions);
+    void openTemporary();
     void close();
 
     std::string path_;

@@ -7,7 +7,9 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 using namespace plantext;
 
@@ -213,6 +215,21 @@ TEST(Fmt, WritesInPlaceAndStaysAtThat) {
     EXPECT_EQ(run("fmt " + file).output, once);
     EXPECT_EQ(run("fmt " + file + " -o " + file).status, 0);
     EXPECT_EQ(contentOf(file), once);
+}
+
+TEST(Fmt, KeepsOwnerAndPermissions) {
+    const std::string file = makeFile("owned", kPlan);
+    const bool mayGive = ::geteuid() == 0;
+    const uid_t owner = mayGive ? 12 : ::geteuid();
+    const gid_t group = mayGive ? 34 : ::getegid();
+    ASSERT_EQ(::chown(file.c_str(), owner, group), 0);
+    ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
+    EXPECT_EQ(run("fmt % -o " + file, kPlan).status, 0);
+    struct stat status {};
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, owner);
+    EXPECT_EQ(status.st_gid, group);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
 }
 
 TEST(Fmt, LeavesTheFileAloneWhenThePlanIsFaulty) {
