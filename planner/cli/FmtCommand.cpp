@@ -20,7 +20,7 @@ Status runFmt(const FmtOptions& options) {
     if (!plan) {
         return Status::Bad;
     }
-    if (options.output) {
+    if (options.output && *options.output != "-") {
         if (const auto error = writePlanFile(*plan, *options.output)) {
             complain(*options.output + ' ' + *error);
             return Status::Bad;

@@ -9,6 +9,11 @@ namespace planner {
 
 namespace {
 
+/// An empty name is most often a variable of a script that was never set.
+std::string complaintOnName(const std::string& name) {
+    return name.empty() ? "the name of the file is empty; expected a path or -" : std::string();
+}
+
 constexpr const char* kPlanHelp = "Plan file, - for standard input";
 
 struct NamedFormat {
@@ -35,7 +40,7 @@ std::vector<std::string> formatNames() {
 
 CLI::App* addBom(CLI::App& app, BomOptions& options, std::string& format) {
     CLI::App* const bom = app.add_subcommand("bom", "Prints the manufacturing bill of materials of a plan");
-    bom->add_option("PLAN", options.plan, kPlanHelp)->required();
+    bom->add_option("PLAN", options.plan, kPlanHelp)->required()->check(complaintOnName);
     bom->add_option("--root", options.root, "Activity or resource to analyse; the process by default")->type_name("ID");
     bom->add_option("--format", format, "tree for people; xml, json or csv for programs")
         ->check(CLI::IsMember(formatNames()))
@@ -45,15 +50,17 @@ CLI::App* addBom(CLI::App& app, BomOptions& options, std::string& format) {
         ->type_name("TYPES");
     bom->add_flag("--unassigned-fasteners", options.unassignedFasteners, "Show fasteners that aren't assigned as well");
     bom->add_option("--trace", options.trace, "Write the trace of the run to a file, - for standard error")
+        ->check(complaintOnName)
         ->type_name("FILE");
     return bom;
 }
 
 CLI::App* addFmt(CLI::App& app, FmtOptions& options) {
     CLI::App* const fmt = app.add_subcommand("fmt", "Writes a plan in the standard form of its file");
-    fmt->add_option("PLAN", options.plan, kPlanHelp)->required();
+    fmt->add_option("PLAN", options.plan, kPlanHelp)->required()->check(complaintOnName);
     fmt->add_option("-o,--output", options.output,
-                    "File to write, which may be PLAN itself; standard output by default")
+                    "File to write, which may be PLAN itself; standard output by default and for -")
+        ->check(complaintOnName)
         ->type_name("FILE");
     return fmt;
 }

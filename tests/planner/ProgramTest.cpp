@@ -86,6 +86,7 @@ const Case kGood[] = {
     {"SomeFasteners", "bom % --fasteners stud,spot-weld --unassigned-fasteners",
      "Line\n  weld (fastener, Spot Weld)\n  P (product)\nTotal: 2 elements: 1 product, 1 fastener\n"},
     {"FmtOfStandardInput", "echo '{\"version\":1}' | fmt -", "{\n  \"version\": 1\n}\n"},
+    {"FmtToStandardOutput", "echo '{\"version\":1}' | fmt - -o -", "{\n  \"version\": 1\n}\n"},
     {"Version", "--version", "planner 1.0.0\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Program, GoodRun, testing::ValuesIn(kGood), nameOf);
@@ -122,6 +123,8 @@ const Case kBad[] = {
     {"ClosedOutputOfHelp", "--help >&-", "planner: standard output can't be written: Bad file descriptor"},
     {"ClosedInput", "bom - <&-", "standard input: can't be read: Bad file descriptor"},
     {"FullFile", "fmt % -o /dev/full", "planner: /dev/full can't be written: No space left on device"},
+    {"NamelessOutput", "fmt % -o ''", "planner: --output: the name of the file is empty; expected a path or -"},
+    {"NamelessPlan", "bom ''", "planner: PLAN: the name of the file is empty; expected a path or -"},
     {"FullTrace", "bom % --trace /dev/full", "planner: the trace can't be written to /dev/full"},
     {"TraceNowhere", "bom % --trace /none/t", "planner: the trace can't be written to /none/t: No such file"},
     {"TraceOverThePlan", "bom % --trace %", "planner: --trace names the plan itself"},
