@@ -24,7 +24,7 @@ std::string_view textAt(std::string_view text, std::size_t offset, std::string& 
 }
 
 const char* wantedText(Wanted wanted) {
-    constexpr std::array<const char*, 4> kTexts{"an item", "a product, or an assembly with \"children\"",
+    constexpr std::array<const char*, 4> kTexts{"an item", "a product, an assembly with \"children\", or a resource",
                                                 "a product, or an assembly with \"children\"",
                                                 "an activity, a resource or a behaviour"};
     return kTexts[static_cast<std::size_t>(wanted)];

@@ -149,9 +149,8 @@ const Case kReferences[] = {
     {"AssemblyWithoutChildrenAsChild",
      R"({"version":1,"items":[{"id":"p","kind":"product","children":["s"]},)"
      R"({"id":"s","kind":"assembly"}]})",
-     "p:1:62: \"children\" names \"s\", which is an item of kind \"assembly\"; expected the id of a product, or an "
-     "assembly "
-     "with \"children\" (at /items/0/children/0)\n"},
+     "p:1:62: \"children\" names \"s\", which is an item of kind \"assembly\"; expected the id of a product, an "
+     "assembly with \"children\", or a resource (at /items/0/children/0)\n"},
     {"ResourceNamedAsChildOfAResource", R"({"version":1,"resources":[{"id":"a"},{"id":"b","children":["a"]}]})",
      "p:1:60: \"children\" names \"a\", which is a resource; expected the id of a product, or an assembly with "
      "\"children\" (at /resources/1/children/0)\n"},
