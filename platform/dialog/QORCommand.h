@@ -36,7 +36,9 @@ public:
     void SendNotification(QORNotification* iNotification);
 
     /// Ends this object when the dialog loop next runs: lets the first reference go, so that what holds further ones
-    /// keeps it until then. A second request changes nothing; an object whose parent ends goes with the parent.
+    /// keeps it until then. The first reference is spent by the request: nobody releases it any more, and whoever goes
+    /// on using the object holds a counted handle of his own. A second request changes nothing; an object whose parent
+    /// ends goes with the parent.
     void RequestDelayedDestruction();
 
     /// Whether the object waits for the dialog loop to end it.

@@ -7,7 +7,11 @@
 #include "text/QORUnicodeString.h"
 #include "visualization/QORViewer.h"
 
-/// A window of the application's frame, with one frame for its content. Whoever makes it lets it go, see QORCommand.
+/// A window of the application's frame, with one frame for its content.
+///
+/// Its first reference is let go once: by whoever made it, see QORCommand, or when a person has closed it. As soon as a
+/// person can close it, the maker's plain pointer may end with any run of the dialog loop; to go on using the window,
+/// hold a counted handle (QORVar) of your own, and don't Release the first reference after a close.
 class QOR_EXPORT QORFrmWindow : public QORDlgDialog, private QORCounted<QORFrmWindow> {
 public:
     static constexpr std::string_view kCountName = "QORFrmWindow";
@@ -34,7 +38,9 @@ public:
     void SetBaseName(const QORUnicodeString& iTitle);
     const QORUnicodeString& GetBaseName() const { return _baseName; }
 
-    /// A person has closed the window: it ends when the dialog loop next runs.
+    /// A person has closed the window. This spends its first reference, which the dialog loop lets go when it next
+    /// runs: the maker no longer releases it, and the window lives on only as long as somebody holds a counted handle
+    /// on it.
     void ReportClose() { RequestDelayedDestruction(); }
 
     /// The toolkit's side, null where there is none.

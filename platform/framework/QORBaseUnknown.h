@@ -36,7 +36,7 @@ public:
     /// Meta class of the object, its late type where it has one.
     virtual QORMetaClass* GetMetaObject() const;
 
-    /// Name of the object's class or late type.
+    /// Name of the object's class or late type. Not to be kept: it goes with the entry in the dictionary.
     const char* IsA() const;
 
     /// 1 when the object is of the named class, or of one that derives from it, else 0.

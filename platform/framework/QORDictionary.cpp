@@ -10,6 +10,16 @@ QORDictionary& QORDictionary::Get() {
 
 void QORDictionary::Register(QORMetaClass& iClass) {
     _classes[iClass.GetName()] = &iClass;
+    const auto place = _placeholders.find(iClass.GetName());
+    if (place == _placeholders.end()) {
+        return;
+    }
+    for (const auto& [name, entry] : _classes) {
+        if (entry->_base == place->second.get()) {
+            entry->_base = &iClass;
+        }
+    }
+    _placeholders.erase(place);
 }
 
 void QORDictionary::Unregister(const QORMetaClass& iClass) {
@@ -22,8 +32,8 @@ void QORDictionary::Unregister(const QORMetaClass& iClass) {
         if (_extensions[type].empty()) {
             _extensions.erase(type);
         }
-        DropUnusedPlaceholder(type);
     }
+    DropUnusedPlaceholders();
 }
 
 void QORDictionary::AddExtension(const std::string& iType, QORMetaClass& iExtension) {
@@ -49,10 +59,14 @@ QORMetaClass* QORDictionary::FindOrPlace(const std::string& iName) {
     return placed.get();
 }
 
-void QORDictionary::DropUnusedPlaceholder(const std::string& iName) {
-    if (!KnowsBindingsOf(iName)) {
-        _placeholders.erase(iName);
-    }
+bool QORDictionary::IsBase(const QORMetaClass& iClass) const {
+    return std::any_of(_classes.begin(), _classes.end(),
+                       [&](const auto& iEntry) { return iEntry.second->_base == &iClass; });
+}
+
+void QORDictionary::DropUnusedPlaceholders() {
+    std::erase_if(_placeholders,
+                  [this](const auto& iPlaced) { return !KnowsBindingsOf(iPlaced.first) && !IsBase(*iPlaced.second); });
 }
 
 void QORDictionary::Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {

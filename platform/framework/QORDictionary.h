@@ -16,6 +16,7 @@ class QOR_EXPORT QORDictionary {
 public:
     static QORDictionary& Get();
 
+    /// Enters the class; it takes the place of a placeholder of its name, also as the base of others.
     void Register(QORMetaClass& iClass);
     void Unregister(const QORMetaClass& iClass);
     void AddExtension(const std::string& iType, QORMetaClass& iExtension);
@@ -23,6 +24,9 @@ public:
     /// The class of that name, or null.
     QORMetaClass* FindClass(const std::string& iName) const;
     QORMetaClass* FindOrPlace(const std::string& iName);
+
+    /// Drops the placeholders of names that nothing is bound to, nothing extends and no class derives from.
+    void DropUnusedPlaceholders();
 
     void Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
     void Unbind(const std::string& iClass, const QORInterfaceID& iInterface);
@@ -47,7 +51,7 @@ private:
     };
 
     QORDictionary() = default;
-    void DropUnusedPlaceholder(const std::string& iName);
+    bool IsBase(const QORMetaClass& iClass) const;
 
     std::unordered_map<std::string, QORMetaClass*> _classes;
     std::unordered_map<std::string, std::unique_ptr<QORMetaClass>> _placeholders;

@@ -50,6 +50,8 @@ public:
     static QORMetaClass* OfBaseUnknown();
 
 private:
+    friend class QORDictionary;
+
     std::string _name;
     ENUMTypeOfClass _kind;
     QORMetaClass* _base;
@@ -58,6 +60,7 @@ private:
     std::vector<std::string> _extended;
 };
 
-/// The meta class of that name; where there is none yet, a placeholder that stays until the name is defined or nothing
-/// extends it any more. Never null, owned by the dictionary.
+/// The meta class of that name; where there is none yet, a placeholder. Never null, owned by the dictionary. A
+/// placeholder goes when its name is defined, and when a class or a navigator leaves and nothing extends it: don't keep
+/// the pointer, nor its name, ask again.
 QOR_EXPORT QORMetaClass* fct_FindMetaObject(const char* iName);

@@ -22,13 +22,16 @@ QORBaseUnknown* QORObjectParts::FindForwarder(const QORInterfaceID& iInterface) 
             return forwarder.object.get();
         }
     }
-    for (const QORMetaClass* meta = _object.GetMetaObject(); meta; meta = meta->GetBase()) {
+    for (const QORMetaClass* meta = _object.GetMetaObject(); meta;) {
+        // Read first: a placeholder goes when what is made here registers the class.
+        const QORMetaClass* const base = meta->GetBase();
         if (QORBaseUnknown* made = Make(*meta, _object, iInterface)) {
             return made;
         }
         if (QORBaseUnknown* made = MakeOnExtension(*meta, iInterface)) {
             return made;
         }
+        meta = base;
     }
     return nullptr;
 }
@@ -62,11 +65,15 @@ QORExtensionAdapter* QORObjectParts::FindExtension(const QORMetaClass& iType) {
             return part.object.get();
         }
     }
-    std::unique_ptr<QORExtensionAdapter> made(dynamic_cast<QORExtensionAdapter*>(iType.CreateItself()));
-    if (!made) {
+    QORBaseUnknown* const made = iType.CreateItself();
+    auto* const extension = dynamic_cast<QORExtensionAdapter*>(made);
+    if (!extension) {
+        if (made) {
+            made->Release();
+        }
         return nullptr;
     }
-    made->Extend(&_object);
-    _extensions.push_back({&iType, std::move(made)});
+    extension->Extend(&_object);
+    _extensions.push_back({&iType, std::unique_ptr<QORExtensionAdapter>(extension)});
     return _extensions.back().object.get();
 }

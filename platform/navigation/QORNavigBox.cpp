@@ -1,5 +1,6 @@
 #include "navigation/QORNavigBox.h"
 
+#include "framework/QORDictionary.h"
 #include "framework/QORMetaClass.h"
 #include "navigation/QORINavigElement.h"
 #include "navigation/QORINavigateObject.h"
@@ -35,6 +36,8 @@ QORNavigBox::QORNavigBox(QORDialog* iParent, const QORString& iName, QORFrmEdito
 QORNavigBox::~QORNavigBox() {
     _peer.reset();
     RemoveAllRoots();
+    // Late types that nobody extends are placed each time a node is asked for its class.
+    QORDictionary::Get().DropUnusedPlaceholders();
 }
 
 QORMetaClass* QORNavigBox::ClassMeta() {

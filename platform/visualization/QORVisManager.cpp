@@ -13,7 +13,7 @@ bool AnswersAll(const QORBaseUnknown_var& iObject, const QORListInterfaceID& iIn
         if (!interface || iObject->QueryInterface(*interface, &answered) < 0) {
             return false;
         }
-        iObject->Release();
+        static_cast<QORBaseUnknown*>(answered)->Release();
     }
     return true;
 }
