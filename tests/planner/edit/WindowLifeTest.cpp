@@ -1,25 +1,71 @@
-// The window from its making to its end: the order of its steps, its title, and what it does where something is
-// missing.
+// The window from its making to its end: the order of its steps, what it hands over, its title, and what it does where
+// something is missing.
 
 #include "planner/edit/WindowDesk.h"
 #include "support/BomText.h"
+#include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
 #include "dialog/QORDialogLoop.h"
+#include "frame/QORInit.h"
 #include "framework/QORMetaClass.h"
+#include "model/QORISPPActivityModificationEvents.h"
+#include "model/QORISPPActivityRoot.h"
+#include "model/QORISPPProcessContainer.h"
 #include "navigation/QORTvwTreeSettingCtrl.h"
+#include "notification/QORSPPActivityNotificationDispatcher.h"
+#include "visualization/QOR2DPickViewpointEditor.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
 using editing::Desk;
+using editing::findBelow;
 using editing::kShop;
 using editing::Window;
 using recording::Log;
 using recording::Toolkit;
 
 namespace {
+
+/// A document whose one process is itself, and which publishes; who comes and goes is written down.
+class LoggedProcess : public QORBaseUnknown {
+public:
+    explicit LoggedProcess(Log& log) : publisher_(log) {}
+
+    QORMetaClass* GetMetaObject() const override { return planner::PlanDocument::ClassMeta(); }
+    QORStatus QueryInterface(const QORInterfaceID& interface, void** found) override {
+        return QORAnswer(interface, found, init_, container_, root_, activity_, events_);
+    }
+    QORBaseUnknown* GetRootContainer(const char*) {
+        AddRef();
+        return this;
+    }
+    QORListValQORBaseUnknown_var* GetAllProcess() {
+        auto processes = std::make_unique<QORListValQORBaseUnknown_var>();
+        processes->Append(QORBaseUnknown_var(this));
+        return processes.release();
+    }
+    QOREventSubscriber* GetEventPublisher() { return &publisher_; }
+
+private:
+    class Publisher : public QOREventSubscriber {
+    public:
+        explicit Publisher(Log& log) : log_(log) {}
+        void SubscriptionsChanged() override { log_.add("subscribed " + std::to_string(GetSubscriptionCount())); }
+
+    private:
+        Log& log_;
+    };
+
+    Publisher publisher_;
+    QORInitTie<LoggedProcess> init_{this};
+    QORISPPProcessContainerTie<LoggedProcess> container_{this};
+    QORISPPActivityRootTie<LoggedProcess> root_{this};
+    QORISPPActivityTie<LoggedProcess> activity_{this};
+    QORISPPActivityModificationEventsTie<LoggedProcess> events_{this};
+};
 
 /// What happens to a window and to all that a person sees of it, with what it traces in between.
 class Diary {
@@ -28,7 +74,7 @@ public:
         log_.onLine([this] { bringTrace(); });
     }
 
-    Toolkit& toolkit() { return toolkit_; }
+    Log& log() { return log_; }
 
     /// The lines since the last call.
     std::string take() {
@@ -47,7 +93,8 @@ private:
         std::istringstream lines(text.substr(seen_));
         seen_ = text.size();
         for (std::string line; std::getline(lines, line);) {
-            if (line.find("VXMFabBomViewer") != std::string::npos || line.find("Failed") != std::string::npos) {
+            if (line.find("VXMFabBomViewer") != std::string::npos || line.find("Failed") != std::string::npos ||
+                line == "--- TRACE 1 ---") { // once for each bill
                 log_.put(line);
             }
         }
@@ -60,200 +107,131 @@ private:
     recording::DialogSteps steps_{log_};
 };
 
-/// A window with tree and items: what happens until it is there.
-constexpr const char* kMadeInSpaceWithTree = R"(made W
-made ViewerFrame in W
---> VXMFabBomViewer::Constructor
-made  3D Bom Viewer in ViewerFrame
-QOR3DViewpoint added at 0
---> VXMFabBomViewer::CreateNavigBox
-QOR2DViewpoint added at 1
-editor GraphViewpointEditor
-made FrmWindowTag in ViewerFrame
-made Bom Navig in FrmWindowTag
-made Bom Navig in Bom Navig
-attached Bom Navig to FrmWindowTag
-layout
-settings -1
-roots 1
-settings -1 anchored
-<-- VXMFabBomViewer::CreateNavigBox
-selectable  3D Bom Viewer
---> VXMFabBomViewer::SetViewpoint 
---> VXMFabBomViewer::MBOMItems3DView
-shown 2
-shown 1
-sets 0 none
-sets 0 0
-draw
-<-- VXMFabBomViewer::MBOMItems3DView
-attached  3D Bom Viewer to ViewerFrame
-layout
-W calls back from W
---> VXMFabBomViewer::AddCallBacks
---> VXMFabBomViewer::GetRootActivity
-<-- VXMFabBomViewer::GetRootActivity
-<-- VXMFabBomViewer::AddCallBacks
-<-- VXMFabBomViewer::Constructor
+/// A window that opens, follows a change that takes the door out of the bill, and ends. Lines with a T are there for a
+/// window with a tree only, those with a 3 for one with items.
+constexpr const char* kLife = R"(  made W
+  made ViewerFrame in W
+  --> VXMFabBomViewer::Constructor
+  made  3D Bom Viewer in ViewerFrame
+3 QOR3DViewpoint added at 0
+  --- TRACE 1 ---
+  --> VXMFabBomViewer::CreateNavigBox
+  QOR2DViewpoint added at 1
+  editor GraphViewpointEditor
+  made FrmWindowTag in ViewerFrame
+  made Bom Navig in FrmWindowTag
+  made Bom Navig in Bom Navig
+  attached Bom Navig to FrmWindowTag
+  layout
+  settings -1
+T roots 1
+  settings -1 anchored
+  <-- VXMFabBomViewer::CreateNavigBox
+  selectable  3D Bom Viewer
+3 --> VXMFabBomViewer::SetViewpoint 
+3 --> VXMFabBomViewer::MBOMItems3DView
+3 shown 2
+3 shown 1
+3 sets 0 none
+3 sets 0 0
+3 draw
+3 <-- VXMFabBomViewer::MBOMItems3DView
+  attached  3D Bom Viewer to ViewerFrame
+  layout
+  W calls back from W
+  --> VXMFabBomViewer::AddCallBacks
+  --> VXMFabBomViewer::GetRootActivity
+  <-- VXMFabBomViewer::GetRootActivity
+  subscribed 1
+  <-- VXMFabBomViewer::AddCallBacks
+  <-- VXMFabBomViewer::Constructor
+  --> VXMFabBomViewer::OnActivityCallback
+  --> VXMFabBomViewer::UpdateBom
+T roots 0
+  --- TRACE 1 ---
+T roots 1
+  redraw
+  draw
+  <-- VXMFabBomViewer::UpdateBom
+3 sets 0 none
+3 sets none none
+3 hidden 1
+3 draw
+3 sets 0 none
+3 sets 0 0
+  draw
+  <-- VXMFabBomViewer::OnActivityCallback
+  --> VXMFabBomViewer Destructor 
+3 sets 0 none
+3 sets none none
+3 hidden 2
+  draw
+  W no longer calls back from W
+  --> VXMFabBomViewer::RemoveBacks
+  subscribed 0
+  <-- VXMFabBomViewer::RemoveBacks
+  detached  3D Bom Viewer from ViewerFrame
+  layout
+  end of  3D Bom Viewer requested
+  <-- VXMFabBomViewer Destructor 
+  layout
+  detached Bom Navig from FrmWindowTag
+  box gone
+  ended Bom Navig
+  ended Bom Navig
+  ended FrmWindowTag
+  viewer gone
+  ended  3D Bom Viewer
+  ended ViewerFrame
+  window gone
+  ended W
 )";
 
-/// Its end.
-constexpr const char* kEnded = R"(--> VXMFabBomViewer Destructor 
-sets 0 none
-sets none none
-hidden 2
-hidden 1
-draw
-W no longer calls back from W
---> VXMFabBomViewer::RemoveBacks
-<-- VXMFabBomViewer::RemoveBacks
-detached  3D Bom Viewer from ViewerFrame
-layout
-end of  3D Bom Viewer requested
-<-- VXMFabBomViewer Destructor 
-layout
-detached Bom Navig from FrmWindowTag
-box gone
-ended Bom Navig
-ended Bom Navig
-ended FrmWindowTag
-viewer gone
-ended  3D Bom Viewer
-ended ViewerFrame
-window gone
-ended W
-)";
-
-/// A window with a tree alone, from its beginning to its end.
-constexpr const char* kTreeAlone = R"(made W
-made ViewerFrame in W
---> VXMFabBomViewer::Constructor
-made  Bom Viewer in ViewerFrame
---> VXMFabBomViewer::CreateNavigBox
-QOR2DViewpoint added at 1
-editor GraphViewpointEditor
-made FrmWindowTag in ViewerFrame
-made Bom Navig in FrmWindowTag
-made Bom Navig in Bom Navig
-attached Bom Navig to FrmWindowTag
-layout
-settings -1
-roots 1
-settings -1 anchored
-<-- VXMFabBomViewer::CreateNavigBox
-selectable  Bom Viewer
-attached  Bom Viewer to ViewerFrame
-layout
-W calls back from W
---> VXMFabBomViewer::AddCallBacks
---> VXMFabBomViewer::GetRootActivity
-<-- VXMFabBomViewer::GetRootActivity
-<-- VXMFabBomViewer::AddCallBacks
-<-- VXMFabBomViewer::Constructor
---> VXMFabBomViewer Destructor 
-draw
-W no longer calls back from W
---> VXMFabBomViewer::RemoveBacks
-<-- VXMFabBomViewer::RemoveBacks
-detached  Bom Viewer from ViewerFrame
-layout
-end of  Bom Viewer requested
-<-- VXMFabBomViewer Destructor 
-layout
-detached Bom Navig from FrmWindowTag
-box gone
-ended Bom Navig
-ended Bom Navig
-ended FrmWindowTag
-viewer gone
-ended  Bom Viewer
-ended ViewerFrame
-window gone
-ended W
-)";
-
-/// A change that takes the door out of the bill.
-constexpr const char* kFollowed = R"(--> VXMFabBomViewer::OnActivityCallback
---> VXMFabBomViewer::UpdateBom
-roots 0
-roots 1
-redraw
-draw
-<-- VXMFabBomViewer::UpdateBom
-sets 0 none
-sets none none
-hidden 1
-draw
-sets 0 none
-sets 0 0
-draw
-<-- VXMFabBomViewer::OnActivityCallback
-)";
-
-TEST(WindowLife, BeginsInItsOrder) {
-    Desk desk(kShop);
-    Diary diary;
-    const Window window = desk.open(3);
-    EXPECT_EQ(diary.take(), kMadeInSpaceWithTree);
+std::string lifeIn(int mode) {
+    std::istringstream lines(kLife);
+    std::string text;
+    for (std::string line; std::getline(lines, line);) {
+        const bool happens = line[0] == 'T' ? mode != 2 : line[0] != '3' || mode != 1;
+        if (const auto viewer = line.find("3D Bom"); mode == 1 && viewer != std::string::npos) {
+            line.erase(viewer, 3);
+        }
+        text += happens ? line.substr(2) + '\n' : "";
+    }
+    return text;
 }
 
-TEST(WindowLife, EndsInItsOrder) {
-    Desk desk(kShop);
-    Diary diary;
-    Window window = desk.open(3);
-    diary.take();
-    window.close();
-    EXPECT_EQ(diary.take(), kEnded);
+TEST(WindowLife, GoesInItsOrderInEachMode) {
+    for (const int mode : {3, 2, 1}) {
+        Desk desk(kShop);
+        Diary diary;
+        LoggedProcess process(diary.log());
+        QORFrmEditor editor(&process);
+        QORFrmEditor::SetCurrentEditor(&editor);
+        Window window(&editor, desk.plan().process(), mode);
+        desk.editor().putItem(desk.activity("two"), planner::Relation::Removed, desk.item("door"));
+        QORSPPActivityNotificationDispatcher::Dispatch(*process.GetEventPublisher(), 29);
+        window.close();
+        EXPECT_EQ(diary.take(), lifeIn(mode)) << "mode " << mode;
+    }
 }
 
-TEST(WindowLife, OfATreeAloneHasNothingInSpace) {
+TEST(WindowLife, LeavesNothingOverWhereTheModelRaisesWhileItOpens) {
     Desk desk(kShop);
-    Diary diary;
-    Window window = desk.open(1);
-    window.close();
-    EXPECT_EQ(diary.take(), kTreeAlone);
-}
-
-TEST(WindowLife, OfItemsAloneDiffersByTheRoot) {
-    Desk desk(kShop);
-    Diary diary;
-    const Window window = desk.open(2);
-    std::string expected = kMadeInSpaceWithTree;
-    expected.erase(expected.find("roots 1\n"), 8);
-    EXPECT_EQ(diary.take(), expected);
-}
-
-TEST(WindowLife, FollowsAChangeInItsOrder) {
-    Desk desk(kShop);
-    Diary diary;
-    const Window window = desk.open(3);
-    diary.take();
-    desk.editor().putItem(desk.activity("two"), planner::Relation::Removed, desk.item("door"));
-    EXPECT_EQ(diary.take(), kFollowed);
-}
-
-/// Ends the frame that the viewer stands in while the viewer waits for the dialog loop.
-TEST(WindowLife, EndsAViewerThatWaitsWithItsFrameOnce) {
-    Desk desk(kShop);
-    Diary diary;
-    Window window = desk.open(3);
-    window.viewer().RequestDelayedDestruction();
-    EXPECT_EQ(QORDialogLoop::Get().GetWaitingCount(), 1);
-    diary.take();
-    window.close();
-    const std::string text = diary.take();
-    EXPECT_EQ(text.find("ended  3D Bom Viewer"), text.rfind("ended  3D Bom Viewer")) << text;
-    EXPECT_NE(text.find("ended  3D Bom Viewer"), std::string::npos) << text;
-    EXPECT_EQ(QORDialogLoop::Get().GetWaitingCount(), 0);
-}
-
-TEST(WindowLife, KeepsAHeldViewerUntilItIsLetGo) {
-    Desk desk(kShop);
-    Window window = desk.open(3);
-    QORVar<QORViewer> viewer(&window.viewer());
-    window.close();
-    EXPECT_EQ(viewer->GetParent(), nullptr);
-    EXPECT_EQ(viewer->GetReferenceCount(), 1);
+    testmodel::World world;
+    testmodel::Thing& root = testmodel::drawPlan(world, "S1: +P *w | S2: -P >A(Q)");
+    const auto before = QORLivingObjects();
+    for (bool raised = true; raised; ++world.calls.raiseAt) {
+        world.calls.count = 0;
+        world.calls.raiseAt += world.calls.raiseAt == 0 ? 1 : 0;
+        try {
+            Window(&desk.frmEditor(), &root, 3).close();
+            raised = false;
+        } catch (const std::runtime_error&) {
+        }
+        EXPECT_EQ(QORLivingObjects(), before) << "call " << world.calls.raiseAt;
+    }
+    EXPECT_GT(world.calls.count, 10);
+    EXPECT_EQ(desk.plan().process()->GetEventPublisher()->GetSubscriptionCount(), 1) << "the session's";
 }
 
 TEST(WindowLife, MayBeEndedByAPersonWhenTheLoopRuns) {
@@ -270,15 +248,68 @@ TEST(WindowLife, HasItsClassAndResources) {
     Desk desk(kShop);
     const Window window = desk.open(1);
     EXPECT_STREQ(window->IsA(), "VXMFabBomViewer");
-    for (const char* base : {"QORFrmWindow", "QORDlgDialog", "QORDlgWindow", "QORDialog", "QORCommand",
-                             "QOREventSubscriber", "QORBaseUnknown"}) {
-        EXPECT_EQ(window->IsAKindOf(base), 1) << base;
-    }
+    EXPECT_EQ(window->IsAKindOf("QORFrmWindow"), 1);
     EXPECT_EQ(VXMFabBomViewer::ClassMeta()->CreateItself(), nullptr);
     EXPECT_STREQ(window->GetResourceFilename(-1), "QORFrmLayout");
     EXPECT_STREQ(window->GetResourceFilename(0), "QORFrmLayout");
     EXPECT_STREQ(window->GetResourceFilename(1), "QORDialog");
     EXPECT_EQ(window->GetResourceFilename(2), nullptr);
+}
+
+TEST(WindowLife, HandsTheseNumbersOver) {
+    for (const int mode : {1, 2, 3}) {
+        QORTvwTreeSettingCtrl settings;
+        settings.SetTreeFlag(0);
+        Desk desk(kShop);
+        const Window window = desk.open(mode);
+        QORViewer& viewer = window.viewer();
+        QORViewpoint* const graph = viewer.GetViewpoint(mode == 1 ? 1 : 2);
+        const auto* const picking = dynamic_cast<QOR2DPickViewpointEditor*>(viewer.GetViewpointEditor(graph));
+        ASSERT_NE(picking, nullptr);
+        float width = 0;
+        float height = 0;
+        viewer.GetGraphicSize(width, height);
+        unsigned char treeFlag = 9;
+        settings.GetTreeFlag(treeFlag);
+        const struct {
+            const char* what;
+            int number;
+            int expected;
+        } cases[] = {
+            {"viewer style", viewer.GetStyle(), 0x40000},
+            {"viewer options", viewer.GetOptions(), mode == 1 ? 0 : 8},
+            {"width", static_cast<int>(width), 150},
+            {"height", static_cast<int>(height), 200},
+            {"frame style", static_cast<QORDlgFrame*>(window.box().GetBoxFrame()->GetParent())->GetStyle(), 0x80000},
+            {"graph style", window.box().GetGraphStyle(), 0},
+            {"pick mode", picking->GetMode(), 0},
+            {"tree flag", treeFlag, 1}};
+        for (const auto& each : cases) {
+            EXPECT_EQ(each.number, each.expected) << each.what << " in mode " << mode;
+        }
+        EXPECT_EQ(std::string(window.box().GetHeading()), "Bom ID");
+        EXPECT_EQ(window.box().GetViewpoint(), nullptr);
+    }
+}
+
+TEST(WindowLife, HandsSettingsOfTheTreeToTheController) {
+    Desk desk(kShop);
+    const Window window = desk.open(1);
+    window.tree();
+    const QORBaseUnknown_var root(window.box().GetRoot(1)->GetTreeObject());
+    const auto make = [&](int duplicates, int depth, int extension) {
+        return window
+            ->CreateNavigBox(&window.viewer(), &desk.frmEditor(), root, "B", duplicates, depth, 1, 2, extension)
+            ->GetController();
+    };
+    const QORNavigController& strict = *make(0, 2, 1);
+    EXPECT_TRUE(strict.IsNoDuplicate());
+    EXPECT_EQ(strict.GetDepth(), 2);
+    EXPECT_EQ(strict.GetExtensionMode(), kQORExtensionMultiple);
+    const QORNavigController& plain = *make(1, -1, 0);
+    EXPECT_FALSE(plain.IsNoDuplicate());
+    EXPECT_EQ(plain.GetDepth(), kQORDepthUnlimited);
+    EXPECT_EQ(plain.GetExtensionMode(), kQORExtensionSingle);
 }
 
 // Title.
@@ -311,6 +342,7 @@ TEST(WindowTitle, FollowsTheWidth) {
     Desk desk(kShop);
     for (const TitleCase& test : kTitles) {
         const Window window = desk.open(1, test.name);
+        EXPECT_EQ(std::string(window->GetBaseName()), test.name) << "whole until the size changes";
         window.viewer().SetGraphicSize(test.graphicWidth, 10);
         DRECT rect;
         rect.dx = test.width;
@@ -322,12 +354,6 @@ TEST(WindowTitle, FollowsTheWidth) {
             EXPECT_EQ(std::string(window->GetBaseName()), test.title) << "set when the size came";
         }
     }
-}
-
-TEST(WindowTitle, IsTheWholeNameUntilTheSizeChanges) {
-    Desk desk(kShop);
-    const Window window = desk.open(1, "a name that is longer than the graphic area");
-    EXPECT_EQ(std::string(window->GetBaseName()), "a name that is longer than the graphic area");
 }
 
 // Where something is missing.
@@ -367,35 +393,29 @@ TEST(WindowLacking, ARootWithABillStandsEmpty) {
     }
 }
 
+/// What the run ends with, given as "AssertionFailed:<what>", and the source file behind it.
+std::string failure(const std::string& what) {
+    return "AssertionFailed:" + what + ".*\n?.*VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer";
+}
+
 TEST(WindowDeathTest, EndsTheRunForAModeThatIsNone) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     Desk desk(kShop);
     for (const int mode : {0, 4, -1}) {
-        EXPECT_DEATH(desk.open(mode), "AssertionFailed:0 < _iDisplayMode && 4 > _iDisplayMode.*\n?.*"
-                                      "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer");
+        EXPECT_DEATH(desk.open(mode), failure("0 < _iDisplayMode && 4 > _iDisplayMode"));
     }
 }
 
-TEST(WindowDeathTest, EndsTheRunWithoutAFrame) {
-    testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    Desk desk(kShop);
-    Log log;
-    Toolkit toolkit(log);
-    toolkit.refuseWindows();
-    EXPECT_DEATH(desk.open(1), "AssertionFailed:NULL != _windowFrame.*\n?.*"
-                               "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer");
-}
-
-TEST(WindowDeathTest, EndsTheRunWithoutAViewInSpace) {
+TEST(WindowDeathTest, EndsTheRunWithoutFrameOrViewInSpace) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     Desk desk(kShop);
     Log log;
     Toolkit toolkit(log);
     toolkit.refuseViewers();
-    EXPECT_DEATH(desk.open(2), "AssertionFailed:NULL != _viewpoint.*\n?.*"
-                               "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer");
-    const Window window = desk.open(1);
-    EXPECT_EQ(window.tree(), "Bom(hinge(pin) door)") << "a tree needs none";
+    EXPECT_DEATH(desk.open(2), failure("NULL != _viewpoint"));
+    EXPECT_EQ(desk.open(1).tree(), "Bom(hinge(pin) door)") << "a tree needs none";
+    toolkit.refuseWindows();
+    EXPECT_DEATH(desk.open(1), failure("NULL != _windowFrame"));
 }
 
 } // namespace
