@@ -3,40 +3,37 @@
 #include "framework/QORComponents.h"
 #include "framework/QORDictionary.h"
 #include "framework/QORExtensionAdapter.h"
-#include "framework/QORTie.h"
 #include "framework/QORVar.h"
+
+#include "Speaker.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace {
 
-class Speaker : public QORBaseUnknown {
-public:
-    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("TestSpeaker"); }
-    virtual std::string speak() = 0;
-};
-template <class Impl>
-class SpeakerTie : public QORTie<Speaker, Impl> {
-public:
-    using QORTie<Speaker, Impl>::QORTie;
-    std::string speak() override { return this->Target()->speak(); }
-};
 template <class Impl>
 QORBaseUnknown* makeSpeaker(QORBaseUnknown* implementation) {
-    return new SpeakerTie<Impl>(static_cast<Impl*>(implementation));
+    return new SpeakerTie<kTestLoud, Impl>(static_cast<Impl*>(implementation));
 }
+
+/// A class of the tests: an extension when it names a type that it extends.
+struct Meta : QORMetaClass {
+    explicit Meta(const char* name, Creator create = nullptr, const char* extended = "QORNull",
+                  QORMetaClass* base = OfBaseUnknown())
+        : QORMetaClass(name, *extended == 'Q' ? Implementation : Extension, base, extended, "Tests", create) {}
+};
 
 /// An object of whatever class a test gives it.
 class Thing : public QORBaseUnknown {
 public:
     explicit Thing(std::string type) : type_(std::move(type)) {}
     QORMetaClass* GetMetaObject() const override { return fct_FindMetaObject(type_.c_str()); }
-    std::string speak() { return "I am " + type_; }
+    std::string speak(const char*) { return "I am " + type_; }
+    static QORBaseUnknown* create() { return new Thing("TestThing"); }
 
 private:
     std::string type_;
@@ -45,26 +42,31 @@ private:
 class Voice : public QORExtensionAdapter {
 public:
     Voice() { ++made; }
-    std::string speak() { return std::string("voice of ") + GetImpl(0)->IsA(); }
+    std::string speak(const char*) { return std::string("voice of ") + GetImpl(0)->IsA(); }
     static QORBaseUnknown* create() { return new Voice(); }
     inline static int made = 0;
 };
 
 std::string spoken(QORBaseUnknown& object) {
-    const QORVar<Speaker> speaker(&object);
+    const QORVar<Loud> speaker(&object);
     return speaker ? speaker->speak() : "silence";
 }
 
+long timesReported(const char* line) {
+    const auto lines = QORDictionary::Get().Report();
+    return std::count(lines.begin(), lines.end(), line);
+}
+
 TEST(Dictionary, BindsAClassAndAllThatDeriveFromIt) {
-    QORMetaClass base("TestBase", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests", nullptr);
-    const QORMetaClass derived("TestDerived", Implementation, &base, "QORNull", "Tests", nullptr);
+    Meta base("TestBase");
+    const Meta derived("TestDerived", nullptr, "QORNull", &base);
     Thing thing("TestDerived");
     EXPECT_EQ(spoken(thing), "silence");
     {
-        const QORFillDictionary entry("TestBase", Speaker::InterfaceID(), &makeSpeaker<Thing>);
+        const QORFillDictionary entry("TestBase", Loud::InterfaceID(), &makeSpeaker<Thing>);
         Thing bound("TestDerived");
         EXPECT_EQ(spoken(bound), "I am TestDerived");
-        EXPECT_EQ(QORVar<Speaker>(&bound).Get(), QORVar<Speaker>(&bound).Get()) << "made once, found again";
+        EXPECT_EQ(QORVar<Loud>(&bound).Get(), QORVar<Loud>(&bound).Get()) << "made once, found again";
         EXPECT_EQ(bound.GetReferenceCount(), 1);
         EXPECT_EQ(bound.IsAKindOf("TestBase"), 1);
         EXPECT_EQ(bound.IsAKindOf("TestOther"), 0);
@@ -74,12 +76,9 @@ TEST(Dictionary, BindsAClassAndAllThatDeriveFromIt) {
 }
 
 TEST(Dictionary, ExtendsEveryTypeThatAnExtensionNames) {
-    QORMetaClass voice("TestVoice", Extension, QORMetaClass::OfBaseUnknown(), "TestFirst_node", "Tests",
-                       &Voice::create);
+    Meta voice("TestVoice", &Voice::create, "TestFirst_node");
     voice.SetExtensionOf(fct_FindMetaObject("TestSecond_node"));
-    const QORFillDictionary entry("TestVoice", Speaker::InterfaceID(), &makeSpeaker<Voice>);
-    EXPECT_EQ(voice.GetExtendedTypes(), (std::vector<std::string>{"TestFirst_node", "TestSecond_node"}));
-
+    const QORFillDictionary entry("TestVoice", Loud::InterfaceID(), &makeSpeaker<Voice>);
     const int before = Voice::made;
     Thing first("TestFirst_node");
     Thing second("TestSecond_node");
@@ -91,47 +90,60 @@ TEST(Dictionary, ExtendsEveryTypeThatAnExtensionNames) {
     EXPECT_EQ(spoken(first), "voice of TestFirst_node");
     EXPECT_EQ(Voice::made, before + 2);
 
-    const QORVar<Speaker> speaker(&first);
+    const QORVar<Loud> speaker(&first);
     EXPECT_EQ(speaker.Impl(), &first);
     EXPECT_EQ(first.GetReferenceCount(), 2) << "counting is the extended object's";
+}
+
+TEST(Dictionary, PassesOverWhatIsNoExtensionAndLeavesNothingOfIt) {
+    const Meta wrong("TestWrong", &Thing::create, "TestWrong_node");
+    const Meta uncreated("TestUncreated", nullptr, "TestWrong_node");
+    const QORFillDictionary entry("TestWrong", Loud::InterfaceID(), &makeSpeaker<Thing>);
+    const QORFillDictionary other("TestUncreated", Loud::InterfaceID(), &makeSpeaker<Thing>);
+    Thing thing("TestWrong_node");
+    EXPECT_EQ(spoken(thing), "silence");
 }
 
 TEST(Dictionary, IsAsBeforeWhenALibraryHasLeft) {
     const auto before = QORDictionary::Get().Report();
     {
-        QORMetaClass voice("TestVoice", Extension, QORMetaClass::OfBaseUnknown(), "TestLate_node", "Tests", nullptr);
-        const QORFillDictionary entry("TestVoice", Speaker::InterfaceID(), &makeSpeaker<Voice>);
-        const auto during = QORDictionary::Get().Report();
-        for (const char* line : {"class TestVoice", "class TestLate_node", "bound TestVoice TestSpeaker",
+        const Meta voice("TestVoice", nullptr, "TestLate_node");
+        const QORFillDictionary entry("TestVoice", Loud::InterfaceID(), &makeSpeaker<Voice>);
+        for (const char* line : {"class TestVoice", "class TestLate_node", "bound TestVoice TestLoud",
                                  "extended TestLate_node TestVoice"}) {
-            EXPECT_EQ(std::count(during.begin(), during.end(), line), 1) << line;
+            EXPECT_EQ(timesReported(line), 1) << line;
         }
     }
     EXPECT_EQ(QORDictionary::Get().Report(), before);
 }
 
 TEST(Dictionary, TakesADefinitionInPlaceOfAPlaceholder) {
-    EXPECT_EQ(fct_FindMetaObject("TestLater")->GetKind(), Placeholder);
-    const QORMetaClass later("TestLater", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests", nullptr);
+    const Meta derived("TestDerived", nullptr, "QORNull", fct_FindMetaObject("TestLater"));
+    const Meta voice("TestVoice", &Voice::create, "TestLater");
+    const QORFillDictionary entry("TestVoice", Loud::InterfaceID(), &makeSpeaker<Voice>);
+    QORDictionary::Get().DropUnusedPlaceholders();
+    EXPECT_EQ(derived.GetBase()->GetKind(), Placeholder) << "kept, since it is a base";
+    const Meta later("TestLater");
     EXPECT_EQ(fct_FindMetaObject("TestLater"), &later);
-    EXPECT_STREQ(later.GetModule(), "Tests");
-    EXPECT_EQ(later.CreateItself(), nullptr);
+    EXPECT_EQ(derived.GetBase(), &later);
+    EXPECT_EQ(timesReported("class TestLater"), 1) << "the placeholder has gone";
+    Thing thing("TestDerived");
+    EXPECT_EQ(spoken(thing), "voice of TestDerived");
 }
 
 TEST(Component, IsMadeByNameAndAnswersOrIsNegative) {
-    const QORMetaClass meta("TestThing", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests",
-                            []() -> QORBaseUnknown* { return new Thing("TestThing"); });
-    const QORMetaClass closed("TestClosed", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests", nullptr);
-    const QORFillDictionary entry("TestThing", Speaker::InterfaceID(), &makeSpeaker<Thing>);
+    const Meta meta("TestThing", &Thing::create);
+    const Meta closed("TestClosed");
+    const QORFillDictionary entry("TestThing", Loud::InterfaceID(), &makeSpeaker<Thing>);
     void* out = nullptr;
-    ASSERT_EQ(QORInstantiateComponent("TestThing", Speaker::InterfaceID(), &out), QOR_OK);
-    const auto speaker = QORVar<Speaker>::Adopt(static_cast<Speaker*>(out));
+    ASSERT_EQ(QORInstantiateComponent("TestThing", Loud::InterfaceID(), &out), QOR_OK);
+    const auto speaker = QORVar<Loud>::Adopt(static_cast<Loud*>(out));
     EXPECT_EQ(speaker->speak(), "I am TestThing");
     EXPECT_EQ(speaker.Impl()->GetReferenceCount(), 1);
 
-    const std::pair<const char*, QORInterfaceID> refused[] = {{"TestThing", QORInterfaceID("TestMissing")},
-                                                              {"TestClosed", Speaker::InterfaceID()},
-                                                              {"TestUnknown", Speaker::InterfaceID()}};
+    const std::pair<const char*, QORInterfaceID> refused[] = {{"TestThing", Missing::InterfaceID()},
+                                                              {"TestClosed", Loud::InterfaceID()},
+                                                              {"TestUnknown", Loud::InterfaceID()}};
     for (const auto& [name, interface] : refused) {
         out = speaker.Get();
         EXPECT_LT(QORInstantiateComponent(name, interface, &out), 0) << name;

@@ -38,23 +38,23 @@ DOM_Element topWith(std::initializer_list<const char*> children) {
     return top;
 }
 
-TEST(DomText, ComesBackAsItWentIn) {
-    const char* const texts[] = {"", "plain", "Größe", "€ and 𝄞", "<&>\"'"};
-    for (const char* text : texts) {
-        EXPECT_EQ(narrow(DOMString(text)), text);
+TEST(DomText, ComesBackAsItWentInBeyondOneBlockOfTheTranscoder) {
+    for (std::string text : {"", "plain", "Größe", "€ and 𝄞", "<&>\"'"}) {
+        EXPECT_EQ(narrow(DOMString(text.c_str())), text);
+        while (text.size() > 0 && text.size() < 60000) {
+            text += text;
+        }
+        EXPECT_EQ(narrow(DOMString(text.c_str())), text);
+        EXPECT_EQ(narrow(DOMString((text + "\xFF").c_str())), text + "\uFFFD");
     }
     EXPECT_EQ(DOMString("𝄞").length(), 2) << "in 16-bit units";
-    EXPECT_TRUE(DOMString("a").equals(DOMString("a")));
-    EXPECT_FALSE(DOMString("a").equals(DOMString("A")));
     EXPECT_EQ(DOMString(nullptr).length(), 0);
     EXPECT_EQ(XMLString::transcode(nullptr), nullptr);
 }
 
 TEST(DomText, TakesBrokenUtf8AsReplacementCharacters) {
-    const std::pair<std::string, std::string> cases[] = {
-        {"a\xFF"
-         "b",
-         "a\uFFFDb"},
+    const std::pair<const char*, const char*> cases[] = {
+        {"g\xFFh", "g\uFFFDh"},
         {"\x80", "\uFFFD"},
         {"cut \xE2\x82", "cut \uFFFD\uFFFD"},
         {"long \xC0\xAF.", "long \uFFFD\uFFFD."},
@@ -63,17 +63,8 @@ TEST(DomText, TakesBrokenUtf8AsReplacementCharacters) {
         {"ü\xFFü", "ü\uFFFDü"},
     };
     for (const auto& [broken, repaired] : cases) {
-        EXPECT_EQ(narrow(DOMString(broken.c_str())), repaired);
+        EXPECT_EQ(narrow(DOMString(broken)), repaired);
     }
-}
-
-TEST(DomText, HoldsMoreThanOneBlockOfTheTranscoder) {
-    std::string text;
-    for (int i = 0; i < 5000; ++i) {
-        text += "aü€𝄞";
-    }
-    EXPECT_EQ(narrow(DOMString(text.c_str())), text);
-    EXPECT_EQ(narrow(DOMString((text + "\xFF").c_str())), text + "\uFFFD");
 }
 
 TEST(DomDocument, IsATreeOfElementsWithAttributes) {

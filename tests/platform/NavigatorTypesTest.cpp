@@ -2,10 +2,9 @@
 
 #include "framework/QORMetaClass.h"
 #include "framework/QORVar.h"
-#include "navigation/QORINavigateObjectModify.h"
+#include "navigation/QORINavigElement.h"
 #include "navigation/QORNodeExtension.h"
 #include "navigation/QORTvwTreeSettingCtrl.h"
-#include "visualization/QORPathElement.h"
 
 #include <gtest/gtest.h>
 
@@ -13,31 +12,34 @@ namespace {
 
 class TreeSettings : public testing::Test {
 protected:
-    TreeSettings() { QORTvwTreeSettingCtrl().SetTreeFlag(kQORTreePlain); }
-    ~TreeSettings() override { QORUseTvwTreeSettingCtrl(nullptr); }
+    ~TreeSettings() override {
+        QORUseTvwTreeSettingCtrl(nullptr);
+        QORTvwTreeSettingCtrl().SetTreeFlag(kQORTreePlain);
+    }
+
+    QORStatus ask(const QORInterfaceID& interface = IID_QORITvwTreeSettingAtt) {
+        asked_ = this;
+        return GetQORTvwTreeSettingCtrl(interface, &asked_);
+    }
+    void* asked_ = nullptr;
 };
 
 TEST_F(TreeSettings, AreSharedByAllWhoAsk) {
-    for (const unsigned char flag : {kQORTreeLines, kQORTreePlain}) {
-        void* asked = nullptr;
-        ASSERT_EQ(GetQORTvwTreeSettingCtrl(IID_QORITvwTreeSettingAtt, &asked), QOR_OK);
-        auto* const settings = static_cast<QORITvwTreeSettingAtt*>(asked);
-        EXPECT_EQ(settings->SetTreeFlag(flag), QOR_OK);
-        EXPECT_EQ(settings->Release(), 0) << "the one reference is the caller's";
-        unsigned char read = 9;
-        EXPECT_EQ(QORTvwTreeSettingCtrl().GetTreeFlag(read), QOR_OK);
-        EXPECT_EQ(read, flag);
-    }
+    ASSERT_EQ(ask(), QOR_OK);
+    auto* const settings = static_cast<QORITvwTreeSettingAtt*>(asked_);
+    EXPECT_EQ(settings->SetTreeFlag(kQORTreeLines), QOR_OK);
+    EXPECT_EQ(settings->Release(), 0) << "the one reference is the caller's";
+    unsigned char read = kQORTreePlain;
+    EXPECT_EQ(QORTvwTreeSettingCtrl().GetTreeFlag(read), QOR_OK);
+    EXPECT_EQ(read, kQORTreeLines);
 }
 
 TEST_F(TreeSettings, AreRefusedForAnotherInterfaceOrWithoutComponent) {
-    void* asked = this;
-    EXPECT_LT(GetQORTvwTreeSettingCtrl(IID_QORINavigateObjectModify, &asked), 0);
-    EXPECT_EQ(asked, nullptr);
+    EXPECT_LT(ask(IID_QORINavigElement), 0);
+    EXPECT_EQ(asked_, nullptr);
     QORUseTvwTreeSettingCtrl("NotInstalled");
-    asked = this;
-    EXPECT_LT(GetQORTvwTreeSettingCtrl(IID_QORITvwTreeSettingAtt, &asked), 0);
-    EXPECT_EQ(asked, nullptr);
+    EXPECT_LT(ask(), 0);
+    EXPECT_EQ(asked_, nullptr);
 }
 
 /// A host's own component, which says yes and hands out nothing.
@@ -53,27 +55,8 @@ TEST_F(TreeSettings, MayBeAHostsOwnWithNothingToHandOut) {
     const QORMetaClass own("SilentSettings", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests",
                            []() -> QORBaseUnknown* { return new SilentSettings(); });
     QORUseTvwTreeSettingCtrl("SilentSettings");
-    void* asked = this;
-    EXPECT_EQ(GetQORTvwTreeSettingCtrl(IID_QORITvwTreeSettingAtt, &asked), QOR_OK);
-    EXPECT_EQ(asked, nullptr);
-}
-
-class Commanded : public QORBaseUnknown {
-public:
-    QORPathElement* DecodeSentCommand(unsigned char& flag) {
-        flag = 0;
-        return new QORPathElement(this);
-    }
-};
-
-TEST(NavigateObjectModify, HandsOutAPathThatIsTheCallers) {
-    Commanded object;
-    QORINavigateObjectModifyTie<Commanded> tie(&object);
-    unsigned char flag = 7;
-    const auto path = QORVar<QORPathElement>::Adopt(tie.DecodeSentCommand(flag));
-    EXPECT_EQ(path->GetElement(1).Get(), &object);
-    EXPECT_EQ(flag, 0);
-    EXPECT_EQ(path->GetReferenceCount(), 1);
+    EXPECT_EQ(ask(), QOR_OK);
+    EXPECT_EQ(asked_, nullptr);
 }
 
 TEST(NodeExtension, DoesNothingOutsideATree) {
