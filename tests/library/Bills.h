@@ -39,32 +39,35 @@ inline void apply(const Change& change, World& world) {
     }
 }
 
-/// A row of a table: a drawn plan and its bill.
-struct BillRow {
-    const char* name;
-    const char* drawing;
-    const char* bom;
-    Change change = nullptr;
-};
-
-inline std::string rowName(const testing::TestParamInfo<BillRow>& info) {
-    return info.param.name;
+inline Change answers(const char* name, unsigned answers) {
+    return [=](World& world) {
+        world[name].answers = answers;
+    };
 }
 
-inline void PrintTo(const BillRow& row, std::ostream* out) {
-    *out << row.drawing;
+inline Change lacks(const char* name, unsigned answers) {
+    return [=](World& world) {
+        world[name].answers &= ~answers;
+    };
 }
 
-/// Tests of rows for one kind of root and one algorithm.
-template <Root kind, Algorithm algorithm>
-class BillTable : public testing::TestWithParam<BillRow> {
-protected:
-    std::string bill() const {
-        World world;
-        Thing& root = draw(world, kind, GetParam().drawing);
-        apply(GetParam().change, world);
-        return bomText(makeGenerator(root, kind, algorithm)->GetBom(0));
-    }
-};
+/// A link to a new thing "X".
+inline Change linksX(const char* name, unsigned answers) {
+    return [=](World& world) {
+        World::link(world[name], world.thing("X", answers));
+    };
+}
+
+inline Change failingBehaviour(const char* name) {
+    return [=](World& world) {
+        world[name].behaviourStatus = QOR_FAILED;
+    };
+}
+
+inline Change noBehaviour(const char* name) {
+    return [=](World& world) {
+        world[name].behaviour = nullptr;
+    };
+}
 
 } // namespace testmodel

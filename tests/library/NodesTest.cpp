@@ -38,24 +38,17 @@ std::string listsOf(const VXMFabFlowNode& node) {
     return text;
 }
 
-void expectEmpty(const VXMFabFlowNode& node) {
-    EXPECT_EQ(node.GetID(), -1);
-    EXPECT_EQ(node.GetNumber(), -1);
-    EXPECT_EQ(node.GetLevel(), 2);
-    EXPECT_EQ(node.GetIDString(), "-1");
-    EXPECT_EQ(node.GetUName(), "");
-    EXPECT_EQ(node.GetNodeType(), 0);
-    EXPECT_EQ(node.ParentIsStation(), 0);
-    EXPECT_EQ(listsOf(node), "");
-}
-
 TEST(FlowNode, WithoutAModelObjectStaysEmpty) {
     const VXMFabProcessFlowNode process(nullptr, 2, 7, kAllTypes, 1);
     const VXMFabResourceFlowNode resource(nullptr, 2, 7, kAllTypes, 1);
-    expectEmpty(process);
-    expectEmpty(resource);
-    EXPECT_FALSE(process.GetActivity());
-    EXPECT_FALSE(resource.GetActivity());
+    for (const VXMFabFlowNode* node : std::initializer_list<const VXMFabFlowNode*>{&process, &resource}) {
+        EXPECT_EQ(node->GetIDString(), "-1");
+        EXPECT_EQ(node->GetNumber(), -1);
+        EXPECT_EQ(node->GetUName(), "");
+        EXPECT_EQ(node->GetNodeType(), 0);
+        EXPECT_EQ(node->ParentIsStation(), 0);
+        EXPECT_EQ(listsOf(*node), "");
+    }
 }
 
 TEST(FlowNode, ReadsNameAndIdentity) {
@@ -63,22 +56,17 @@ TEST(FlowNode, ReadsNameAndIdentity) {
     drawPlan(world, "S@station { A@loading }");
     const VXMFabProcessFlowNode node = processNode(world["A"]);
     EXPECT_EQ(node.GetName(), "A");
-    EXPECT_EQ(node.GetUName(), "A");
-    EXPECT_EQ(node.GetID(), 3);
     EXPECT_EQ(node.GetIDString(), "3");
     EXPECT_EQ(node.GetNumber(), 7);
     EXPECT_EQ(node.GetLevel(), 2);
     EXPECT_EQ(node.GetNodeType(), VXMFabFlowNode::NT_LOADING);
     EXPECT_EQ(node.ParentIsStation(), 1);
-    EXPECT_EQ(node.IsAResourceFlowNode(), 0);
     EXPECT_EQ(node.GetActivity(), handle(world["A"]));
 }
 
 TEST(FlowNode, LinksAreOneSidedAndMayRepeat) {
-    World world;
-    drawPlan(world, "A | B");
-    VXMFabProcessFlowNode first = processNode(world["A"]);
-    VXMFabProcessFlowNode second = processNode(world["B"]);
+    VXMFabProcessFlowNode first(nullptr, 0, 1, 0, 0);
+    VXMFabProcessFlowNode second(nullptr, 0, 2, 0, 0);
     first.AddSuccessor(&second);
     first.AddSuccessor(&second);
     EXPECT_EQ(first.GetNumberOfSuccessors(), 2);
@@ -117,14 +105,8 @@ const ListsRow kProcessLists[] = {
              items.reset();
          }
      }},
-    {"NoItemManagement", "A: +P >O", "CP: O",
-     [](World& world) {
-         world["A"].answers &= ~unsigned(kItemMgt);
-     }},
-    {"NoFlowManagement", "A: +P >O", "FAP: P",
-     [](World& world) {
-         world["A"].answers &= ~unsigned(kFlow);
-     }},
+    {"NoItemManagement", "A: +P >O", "CP: O", lacks("A", kItemMgt)},
+    {"NoFlowManagement", "A: +P >O", "FAP: P", lacks("A", kFlow)},
     {"RecordsThatAreNullOrForeign", "A: >O", "CP: O",
      [](World& world) {
          Thing& step = world["A"];
@@ -132,14 +114,8 @@ const ListsRow kProcessLists[] = {
          all.putOut(step, nullptr);
          step.outputs.insert(step.outputs.begin(), {nullptr, &world["O"]});
      }},
-    {"FastenerThatIsNoItem", "A: *w *v", "F: v",
-     [](World& world) {
-         world["w"].answers = kFastener;
-     }},
-    {"ItemThatIsNoFastener", "A: *w", "",
-     [](World& world) {
-         world["w"].answers = kItem;
-     }},
+    {"FastenerThatIsNoItem", "A: *w *v", "F: v", answers("w", kFastener)},
+    {"ItemThatIsNoFastener", "A: *w", "", answers("w", kItem)},
     {"NullItem", "A: *w", "FAP: null F: w",
      [](World& world) {
          world["A"].items[2]->push_back(nullptr);
@@ -167,19 +143,10 @@ const ListsRow kResourceLists[] = {
     {"AllThatIsAssigned", "C@resource: +P *w >O", "FAP: P w CP: O F: w"},
     {"BitClear", "C@resource: *w", "FAP: w", nullptr, kAllTypes - 64},
     {"NoBitSet", "C@resource: *w", "FAP: w", nullptr, 0},
-    {"OutputThatIsNoItem", "C@resource: >O >M", "CP: M",
-     [](World& world) {
-         world["O"].answers = kProduct;
-     }},
+    {"OutputThatIsNoItem", "C@resource: >O >M", "CP: M", answers("O", kProduct)},
     {"NullLists", "C@resource", ""},
-    {"NoBehaviour", "C@resource: +P", "",
-     [](World& world) {
-         world["C"].behaviour = nullptr;
-     }},
-    {"StatusIsNotLookedAt", "C@resource: +P", "FAP: P",
-     [](World& world) {
-         world["C"].behaviourStatus = QOR_FAILED;
-     }},
+    {"NoBehaviour", "C@resource: +P", "", noBehaviour("C")},
+    {"StatusIsNotLookedAt", "C@resource: +P", "FAP: P", failingBehaviour("C")},
 };
 
 TEST(FlowNode, TakesTheListsOfABehaviour) {
@@ -222,11 +189,11 @@ TEST(FlowNode, AsksTheModelInOrderAndNoMoreThanNeeded) {
         }
         return text;
     };
+    const VXMIResourceBehaviorManager_var manager(handle(resource));
     EXPECT_EQ(callsOf([&] { processNode(world["A"]); }),
               "GetParent GetParent GetItems 2 GetItems 1 GetItems 4 GetItems 0 GetProcessType GetProductOutputs ");
     EXPECT_EQ(callsOf([&] { processNode(world["A"], 0); }),
               "GetParent GetParent GetItems 2 GetItems 1 GetItems 4 GetProductOutputs ");
-    const VXMIResourceBehaviorManager_var manager(handle(resource));
     EXPECT_EQ(callsOf([&] { VXMFabResourceFlowNode(manager, 0, 1, 1, 1); }),
               "GetBehavior GetAssignedItems GetAssignedItems GetProcessType GetOutputItems ");
     EXPECT_EQ(callsOf([&] { VXMFabResourceFlowNode(manager, 0, 1, 0, 1); }),
@@ -244,7 +211,6 @@ TEST(FlowNode, StationsAboveIncludeTheStartOfTheClimb) {
     }
     QORISPPAbstractActivity_var none;
     EXPECT_EQ(node.CheckParentIsStation(none), 0);
-    EXPECT_EQ(node.ParentIsStation(), 0);
 }
 
 TEST(FlowNode, ParentsInACircleEndTheClimb) {
@@ -260,19 +226,16 @@ TEST(FlowNode, UseProductsFollowsStationAndType) {
     World world;
     drawPlan(world, "S@station { L@loading, T, G@grouping }, L2@loading");
     VXMProcessBomGenerator generator(nullptr);
-    const auto uses = [&](const char* name) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"S", "111111"}, {"L", "010000"}, {"T", "000000"}, {"G", "000000"}, {"L2", "111111"}};
+    for (const auto& [name, expected] : rows) {
         VXMFabProcessFlowNode node = processNode(world[name]);
         std::string used;
         for (int type = VXMFabMBOMNode::AT_Top; type <= VXMFabMBOMNode::AT_Fastener; ++type) {
             used += std::to_string(generator.UseProducts(&node, VXMFabMBOMNode::AssignmentType(type)));
         }
-        return used;
-    };
-    EXPECT_EQ(uses("S"), "111111");
-    EXPECT_EQ(uses("L"), "010000");
-    EXPECT_EQ(uses("T"), "000000");
-    EXPECT_EQ(uses("G"), "000000");
-    EXPECT_EQ(uses("L2"), "111111");
+        EXPECT_EQ(used, expected) << name;
+    }
     EXPECT_EQ(generator.UseProducts(nullptr, VXMFabMBOMNode::AT_FirstAssign), 0);
 }
 
@@ -284,11 +247,7 @@ TEST(MBOMNode, TheTopNodeStandsForNoProduct) {
     const TraceCapture trace;
     const VXMFabMBOMNode top(nullptr, 0, 0, VXMFabMBOMNode::AT_Top, 1);
     EXPECT_EQ(top.GetUName(), "TOPNODE");
-    EXPECT_EQ(top.GetID(), -1);
     EXPECT_EQ(top.GetIDString(), "-1");
-    EXPECT_FALSE(top.GetProduct());
-    EXPECT_EQ(top.GetAT(), VXMFabMBOMNode::AT_Top);
-    EXPECT_EQ(top.GetPredecessor(), nullptr);
     EXPECT_EQ(trace.text(), "");
 }
 
@@ -303,10 +262,7 @@ TEST(MBOMNode, TakesItsNameFromTheFirstInterfaceThatAnswers) {
     thing.assemblyName = "as assembly";
     for (const auto& [answers, name] : rows) {
         thing.answers = answers;
-        const VXMFabMBOMNode node = nodeOf(handle(thing));
-        EXPECT_EQ(node.GetName(), name);
-        EXPECT_EQ(node.GetUName(), name);
-        EXPECT_EQ(node.GetIDString(), "1");
+        EXPECT_EQ(nodeOf(handle(thing)).GetName(), name);
     }
 }
 
@@ -318,41 +274,17 @@ TEST(MBOMNode, HandlesThroughAnyInterfaceAreOneProduct) {
     EXPECT_EQ(asItem.GetIDString(), asProduct.GetIDString());
 }
 
-TEST(MBOMNode, ChildrenStandInOrderAndLeaveByPositionOrValue) {
-    VXMFabMBOMNode parent = nodeOf(nullptr, 0);
-    VXMFabMBOMNode a = nodeOf(nullptr, 1);
-    VXMFabMBOMNode b = nodeOf(nullptr, 2);
-    VXMFabMBOMNode c = nodeOf(nullptr, 3);
-    VXMFabMBOMNode stranger = nodeOf(nullptr, 9);
-    for (VXMFabMBOMNode* child : {&a, &b, &a, &c, &b}) {
-        parent.AddSuccessor(child);
-    }
-    parent.AddSuccessor(nullptr);
-    EXPECT_EQ(treeText(parent), "1 2 1 3 2");
-    parent.RemoveSuccessor(&b);
-    EXPECT_EQ(treeText(parent), "1 1 3 2");
-    parent.RemoveSuccessor(2);
-    EXPECT_EQ(treeText(parent), "1 3 2");
-    parent.RemoveSuccessor(&stranger);
-    parent.RemoveSuccessor(static_cast<VXMFabMBOMNode*>(nullptr));
-    parent.RemoveSuccessor(0);
-    parent.RemoveSuccessor(4);
-    EXPECT_EQ(treeText(parent), "1 3 2");
-    parent.RemoveSuccessor(1);
-    parent.RemoveSuccessor(&a);
-    EXPECT_EQ(treeText(parent), "3 2");
-    EXPECT_EQ(parent.GetNumberOfSuccessors(), 2);
-    EXPECT_EQ(parent.GetSuccessor(3), nullptr);
-    EXPECT_EQ(c.GetPredecessor(), nullptr);
-}
-
-TEST(MBOMNode, RemovalLeavesThePredecessorOfTheChild) {
+TEST(MBOMNode, ListAndPredecessorChangeIndependently) {
     VXMFabMBOMNode parent = nodeOf(nullptr, 0);
     VXMFabMBOMNode child = nodeOf(nullptr, 1);
     parent.AddSuccessor(&child);
+    parent.AddSuccessor(nullptr);
+    EXPECT_EQ(treeText(parent), "1");
     EXPECT_EQ(child.GetPredecessor(), nullptr);
     child.SetPredecessor(&parent);
+    parent.RemoveSuccessor(static_cast<VXMFabMBOMNode*>(nullptr));
     parent.RemoveSuccessor(&child);
+    EXPECT_EQ(treeText(parent), "");
     EXPECT_EQ(child.GetPredecessor(), &parent);
     child.RemovePredecessor();
     EXPECT_EQ(child.GetPredecessor(), nullptr);
@@ -371,8 +303,6 @@ TEST(MBOMNode, MovedSuccessorsStandInBothLists) {
     generator.MoveSuccessors(&source, &target);
     generator.MoveSuccessors(nullptr, &target);
     generator.MoveSuccessors(&source, nullptr);
-    EXPECT_EQ(treeText(source), "3 4");
-    EXPECT_EQ(treeText(target), "4 3 4");
     EXPECT_EQ(a.GetPredecessor(), &source);
     target.RemoveSuccessor(&b);
     source.RemoveSuccessor(&a);
