@@ -20,24 +20,22 @@ std::string named(const char* prefix, int index) {
     return prefix + std::to_string(index);
 }
 
-/// Steps in a chain, each of which first-assigns a product of its own.
-std::vector<Thing*> chain(World& world, Thing& parent, int count) {
-    std::vector<Thing*> steps;
-    for (int index = 1; index <= count; ++index) {
-        Thing& step = world.thing(named("S", index), kStep);
-        step.parent = &parent;
-        step.items[2] = Things{&world.thing(named("P", index), kItem)};
-        if (!steps.empty()) {
-            World::link(*steps.back(), step);
-        }
-        steps.push_back(&step);
-    }
-    return steps;
+/// A step that first-assigns a product of its own.
+Thing& step(World& world, Thing& parent, int index) {
+    Thing& made = world.thing(named("S", index), kStep);
+    made.parent = &parent;
+    made.items[2] = Things{&world.thing(named("P", index), kItem)};
+    return made;
 }
 
 Thing& chainPlan(World& world, int count) {
     Thing& root = world.thing("R", kStep);
-    root.children = chain(world, root, count);
+    root.children = Things{&step(world, root, 1)};
+    for (int index = 2; index <= count; ++index) {
+        Thing& next = step(world, root, index);
+        World::link(*root.children->back(), next);
+        root.children->push_back(&next);
+    }
     return root;
 }
 
@@ -101,19 +99,13 @@ TEST(Scale, EveryStepIsLinkedToOneThatLeadsNowhere) {
 
 TEST(Scale, StepsNestedInEachOther) {
     World world;
-    Thing& root = world.thing("R", kStep);
-    Things steps = chain(world, root, kMany);
-    root.children = Things{steps[0], steps[1]};
-    for (std::size_t index = 1; index < steps.size(); ++index) {
-        steps[index]->predecessors.clear();
-        steps[index]->successors.clear();
-        if (index > 1) {
-            steps[index]->parent = steps[index - 1];
-            steps[index - 1]->children = Things{steps[index]};
-        }
+    Thing& root = drawPlan(world, "S1: +P1 | S2: +P2");
+    Thing* above = &world["S2"];
+    for (int index = 3; index <= kMany; ++index) {
+        Thing& below = step(world, *above, index);
+        above->children = Things{&below};
+        above = &below;
     }
-    World::link(*steps[0], *steps[1]);
-    steps[0]->successors = Things{steps[1]};
     expectElements(root, kMany);
 }
 
@@ -187,34 +179,18 @@ TEST(Scale, ChainListedBackwards) {
 /// 60 forks and joins in a row after the one step that brings a product; back to it, or on to the end alone.
 TEST(Scale, ForksThatBringNothing) {
     for (const bool isLoop : {false, true}) {
-        World world;
-        Thing& root = world.thing("R", kStep);
-        const auto step = [&](const std::string& name) -> Thing& {
-            Thing& made = world.thing(name, kStep);
-            made.parent = &root;
-            root.children = root.children ? root.children : Things();
-            root.children->push_back(&made);
-            return made;
-        };
-        Thing& start = step("start");
-        Thing* join = &step("first");
-        World::link(start, *join);
-        (isLoop ? *join : step("aside")).items[2] = Things{&world.thing("P", kItem)};
-        Thing& first = *join;
+        std::string steps = isLoop ? "start | J0: +P" : "aside: +P, start | J0";
+        std::string branches;
+        std::string links = ";";
         for (int index = 1; index <= 60; ++index) {
-            Thing& next = step(named("J", index));
-            for (const char* side : {"A", "B"}) {
-                Thing& branch = step(named(side, index));
-                World::link(*join, branch);
-                World::link(branch, next);
-            }
-            join = &next;
+            const std::string number = std::to_string(index);
+            steps += " | A" + number + " | J" + number;
+            branches += ", B" + number;
+            links += " J" + std::to_string(index - 1) + ">B" + number + " B" + number + ">J" + number;
         }
-        if (isLoop) {
-            World::link(*join, first);
-        }
-        World::link(*join, step("end"));
-        expectElements(root, isLoop ? 1 : 0);
+        links += isLoop ? " J60>J0 J60>end" : " J60>end";
+        World world;
+        expectElements(drawPlan(world, steps + branches + ", end" + links), isLoop ? 1 : 0);
     }
 }
 
