@@ -40,28 +40,6 @@ constexpr const char* kWorld = R"({"version": 1,
   "links": [["activity", "loading"], ["activity", "logical"], ["activity", "nested"], ["behaviour", "activity"],
             ["activity", "loading"]]})";
 
-const char* const kInterfaces[] = {"QORIProduct",          "QORISPPAbstractActivity",
-                                   "QORISPPActivity",      "QORISPPChildManagement",
-                                   "QORISPPFlowMgt",       "QORISPPItem",
-                                   "QORISPPItemMgt",       "QORISpecObject",
-                                   "VXMIBIWFastener",      "VXMIMfgAssembly",
-                                   "VXMIResourceBehavior", "VXMIResourceBehaviorManager",
-                                   "VXMIResourceFlowMgmt", "VXMIResourceItemMgmt",
-                                   "QORISPPProductIO"};
-
-std::string answersOf(QORBaseUnknown& object) {
-    std::string names;
-    for (const char* name : kInterfaces) {
-        void* found = nullptr;
-        if (object.QueryInterface(QORInterfaceID(name), &found) >= 0) {
-            const auto handle = QORBaseUnknown_var::Adopt(static_cast<QORBaseUnknown*>(found));
-            EXPECT_EQ(handle.Impl(), &object) << name;
-            names += (names.empty() ? "" : " ") + std::string(name);
-        }
-    }
-    return names;
-}
-
 /// The ids of a list; "null" for none.
 std::string ids(const QORListValQORBaseUnknown_var* list) {
     if (!list) {
@@ -80,154 +58,145 @@ std::string adopted(QORListValQORBaseUnknown_var* list) {
     return ids(std::unique_ptr<QORListValQORBaseUnknown_var>(list).get());
 }
 
-class Model : public testing::Test {
-protected:
-    template <class Var>
-    Var as(const char* id) {
-        return Var(plan_->find(id));
-    }
-
-    std::unique_ptr<Plan> plan_ = read(kWorld);
-};
-
-TEST_F(Model, AnswersByKind) {
-    constexpr const char* kLogical =
-        "QORISPPAbstractActivity QORISPPChildManagement QORISPPFlowMgt QORISPPItemMgt QORISpecObject";
-    constexpr const char* kActivity = "QORISPPAbstractActivity QORISPPActivity QORISPPChildManagement QORISPPFlowMgt "
-                                      "QORISPPItemMgt QORISpecObject";
-    constexpr const char* kResource = "QORIProduct QORISpecObject VXMIResourceBehaviorManager VXMIResourceFlowMgmt";
-    const struct {
-        const char* id;
-        const char* answers;
-    } cases[] = {{"product", "QORIProduct QORISPPItem"},
-                 {"assembly", "QORISPPItem VXMIMfgAssembly"},
-                 {"both", "QORIProduct QORISPPItem VXMIMfgAssembly"},
-                 {"fastener", "QORISPPItem VXMIBIWFastener"},
-                 {"item", "QORISPPItem"},
-                 {"root", kActivity},
-                 {"activity", kActivity},
-                 {"loading", kActivity},
-                 {"station", kActivity},
-                 {"grouping", kActivity},
-                 {"logical", kLogical},
-                 {"inner", kActivity},
-                 {"resource", kResource},
-                 {"behaviour", "VXMIResourceBehavior VXMIResourceFlowMgmt VXMIResourceItemMgmt"}};
-    for (const auto& each : cases) {
-        EXPECT_EQ(answersOf(*plan_->find(each.id)), each.answers) << each.id;
-    }
-    VXMIResourceBehavior_var behaviour;
-    EXPECT_EQ(as<VXMIResourceBehaviorManager_var>("nameless")->GetBehavior(behaviour), QOR_OK);
-    EXPECT_EQ(answersOf(*behaviour.Impl()), "VXMIResourceBehavior VXMIResourceItemMgmt");
+std::string asText(const QORUnicodeString& text) {
+    return std::string(text);
 }
 
-TEST_F(Model, IsOfTypesByKind) {
-    const struct {
-        const char* id;
-        const char* types;
-        const char* type;
-    } cases[] = {{"activity", "PhysicalActivity ", "PhysicalActivity"},
-                 {"loading", "PhysicalActivity BIWActivityLoading ", "BIWActivityLoading"},
-                 {"station", "PhysicalActivity BIWActivityStation ", "Cell"},
-                 {"grouping", "PhysicalActivity BIWActivityGrouping ", "BIWActivityGrouping"},
-                 {"logical", "", "Logical"}};
-    for (const auto& each : cases) {
-        std::string types;
-        for (const char* type : {"PhysicalActivity", "BIWActivityLoading", "BIWActivityStation", "BIWActivityGrouping",
-                                 "Cell", "Logical"}) {
-            types += as<QORISpecObject_var>(each.id)->IsOfType(type) == 1 ? type + std::string(" ") : "";
-        }
-        EXPECT_EQ(types, each.types) << each.id;
-        QORUnicodeString type;
-        as<QORISPPAbstractActivity_var>(each.id)->GetType(type);
-        EXPECT_EQ(type, each.type) << each.id;
-    }
-    EXPECT_EQ(as<QORISpecObject_var>("resource")->IsOfType("PhysicalActivity"), 0);
-}
+// What an object answers to each interface.
 
-TEST_F(Model, GivesItemsByRelation) {
-    const auto items = as<QORISPPItemMgt_var>("activity");
-    EXPECT_EQ(adopted(items->GetItems("Item", 2)), "[item product]");
-    EXPECT_EQ(adopted(items->GetItems("Item", 1)), "[item]");
-    EXPECT_EQ(adopted(items->GetItems("Item", 4)), "[]");
-    EXPECT_EQ(adopted(items->GetItems("Item", 0)), "[item product plain]");
-    EXPECT_EQ(adopted(items->GetItems("Item", 3)), "null");
-    const auto without = as<QORISPPItemMgt_var>("loading");
-    EXPECT_EQ(adopted(without->GetItems("Item", 2)), "null");
-    EXPECT_EQ(adopted(without->GetItems("Item", 0)), "[]");
+std::string answer(QORIProduct& product) {
+    QORUnicodeString instance;
+    EXPECT_EQ(product.GetInstanceName(instance), QOR_OK);
+    EXPECT_EQ(instance, product.GetProductName());
+    return asText(instance) + " " + adopted(product.GetChildren("QORIProduct"));
 }
-
-TEST_F(Model, GivesARecordForEachOutput) {
-    const auto records = as<QORISPPFlowMgt_var>("activity")->GetProductOutputs(nullptr);
-    ASSERT_EQ(records.Size(), 2);
-    for (const QORBaseUnknown_var& record : records) {
-        EXPECT_EQ(answersOf(*record.Impl()), "QORISPPProductIO");
-        EXPECT_EQ(QORISPPProductIO_var(record)->GetProduct().Impl(), plan_->find("parent"));
-    }
-    EXPECT_EQ(as<QORISPPFlowMgt_var>("activity")->GetProductOutputs(as<QORISPPItem_var>("item")).Size(), 0);
-    EXPECT_EQ(as<QORISPPFlowMgt_var>("root")->GetProductOutputs(nullptr).Size(), 0);
+std::string answer(QORISPPItem& item) {
+    return asText(item.GetName());
 }
-
-TEST_F(Model, GivesStructureWithAbsentAndEmptyListsApart) {
-    EXPECT_EQ(adopted(as<QORIProduct_var>("parent")->GetChildren("QORIProduct")), "[product both product]");
-    EXPECT_EQ(adopted(as<QORIProduct_var>("parent")->GetChildren("VXMIMfgAssembly")), "[both]");
-    EXPECT_EQ(adopted(as<QORIProduct_var>("product")->GetChildren("QORIProduct")), "null");
-    EXPECT_EQ(adopted(as<QORIProduct_var>("both")->GetChildren("QORIProduct")), "[]");
-    EXPECT_EQ(adopted(as<QORIProduct_var>("resource")->GetChildren("QORIProduct")), "[parent nested]");
-    EXPECT_EQ(adopted(as<QORIProduct_var>("nested")->GetChildren("QORIProduct")), "null");
-    EXPECT_EQ(adopted(as<QORISPPChildManagement_var>("root")->GetChildren("")), "[activity loading station logical]");
-    EXPECT_EQ(adopted(as<QORISPPChildManagement_var>("root")->GetChildren("BIWActivityStation")), "[station]");
-    EXPECT_EQ(adopted(as<QORISPPChildManagement_var>("logical")->GetChildren("")), "[]");
-    EXPECT_EQ(adopted(as<QORISPPChildManagement_var>("loading")->GetChildren("")), "null");
+std::string answer(VXMIMfgAssembly& assembly) {
     QORListValQORBaseUnknown_var* held = nullptr;
-    as<VXMIMfgAssembly_var>("both")->GetAssignedProducts(held);
-    EXPECT_EQ(adopted(held), "[fastener both]");
-    held = nullptr;
-    as<VXMIMfgAssembly_var>("assembly")->GetAssignedProducts(held);
-    EXPECT_EQ(adopted(held), "null");
+    const QORStatus status = assembly.GetAssignedProducts(held);
+    EXPECT_EQ(status >= 0, held != nullptr);
+    return asText(assembly.GetName()) + " " + adopted(held);
 }
-
-TEST_F(Model, GivesNamesTypesAndParents) {
-    QORUnicodeString name;
-    as<QORIProduct_var>("resource")->GetInstanceName(name);
-    EXPECT_EQ(name, "Robot");
-    EXPECT_EQ(as<QORIProduct_var>("parent")->GetProductName(), "Parent");
-    EXPECT_EQ(as<QORISPPItem_var>("item")->GetName(), "item");
-    EXPECT_EQ(as<VXMIMfgAssembly_var>("both")->GetName(), "both");
-    EXPECT_EQ(as<VXMIBIWFastener_var>("fastener")->GetProcessType(), "Stud");
-    EXPECT_EQ(as<VXMIBIWFastener_var>("fastener")->IsAssigned(), 0);
-    EXPECT_EQ(as<VXMIBIWFastener_var>("plain")->GetProcessType(), "");
-    EXPECT_EQ(as<VXMIBIWFastener_var>("plain")->IsAssigned(), 1);
-    EXPECT_EQ(as<QORISPPAbstractActivity_var>("grouping")->GetParent().Impl(), plan_->find("station"));
-    EXPECT_FALSE(as<QORISPPAbstractActivity_var>("root")->GetParent());
-    EXPECT_FALSE(as<QORISPPAbstractActivity_var>("inner")->GetParent());
+std::string answer(VXMIBIWFastener& fastener) {
+    return asText(fastener.GetProcessType()) + " " + std::to_string(fastener.IsAssigned());
 }
-
-TEST_F(Model, GivesBothViewsOfTheLinks) {
-    const auto activity = as<QORISPPFlowMgt_var>("activity");
-    EXPECT_EQ(ids(activity->GetSuccessors("Activity")), "[loading logical loading]");
-    EXPECT_EQ(ids(activity->GetPredecessors("Activity")), "[]");
-    EXPECT_EQ(ids(activity->GetSuccessors("BIWActivityLoading")), "[loading loading]");
-    EXPECT_EQ(ids(as<QORISPPFlowMgt_var>("logical")->GetPredecessors("Activity")), "[activity]");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("behaviour")->GetSuccessors()), "[activity]");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("behaviour")->GetPredecessors()), "[]");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("nested")->GetPredecessors()), "[activity]");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("nested")->GetSuccessors()), "[]");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("resource")->GetSuccessors()), "null");
-    EXPECT_EQ(adopted(as<VXMIResourceFlowMgmt_var>("resource")->GetPredecessors()), "null");
+std::string answer(QORISPPActivity&) {
+    return "";
 }
-
-TEST_F(Model, GivesBehavioursWithAbsentListsAsNull) {
+std::string answer(QORISPPAbstractActivity& activity) {
+    QORUnicodeString type;
+    activity.GetType(type);
+    const QORISPPAbstractActivity_var parent = activity.GetParent();
+    return asText(activity.GetName()) + " " + asText(type) + (parent ? " in " + asText(parent->GetName()) : "");
+}
+std::string answer(QORISpecObject& typed) {
+    std::string types;
+    for (const char* type :
+         {"PhysicalActivity", "BIWActivityLoading", "BIWActivityStation", "BIWActivityGrouping", "Cell", "Logical"}) {
+        types += typed.IsOfType(type) == 1 ? (types.empty() ? "" : " ") + std::string(type) : "";
+    }
+    return types;
+}
+std::string answer(QORISPPChildManagement& steps) {
+    return adopted(steps.GetChildren("")) + adopted(steps.GetChildren("BIWActivityStation"));
+}
+std::string answer(QORISPPFlowMgt& flow) {
+    std::string text = ids(flow.GetPredecessors("Activity")) + ids(flow.GetSuccessors("Activity"));
+    for (const QORBaseUnknown_var& record : flow.GetProductOutputs(nullptr)) {
+        text += " out " + ModelObject::behind(QORISPPProductIO_var(record)->GetProduct())->id();
+    }
+    return text;
+}
+std::string answer(QORISPPItemMgt& items) {
+    std::string text;
+    for (const int relation : {2, 1, 4, 3, 0}) {
+        text += adopted(items.GetItems("Item", relation));
+    }
+    return text;
+}
+std::string answer(VXMIResourceBehaviorManager& manager) {
     VXMIResourceBehavior_var behaviour;
-    EXPECT_EQ(as<VXMIResourceBehaviorManager_var>("resource")->GetBehavior(behaviour), QOR_OK);
-    EXPECT_EQ(adopted(behaviour->GetActivities(nullptr)), "[inner]");
-    EXPECT_EQ(adopted(VXMIResourceItemMgmt_var(behaviour)->GetAssignedItems()), "[plain]");
-    EXPECT_EQ(adopted(VXMIResourceItemMgmt_var(behaviour)->GetOutputItems()), "null");
-    EXPECT_EQ(as<VXMIResourceBehaviorManager_var>("nameless")->GetBehavior(behaviour), QOR_OK);
-    EXPECT_EQ(adopted(behaviour->GetActivities(nullptr)), "null");
-    VXMIResourceBehavior_var none;
-    EXPECT_LT(as<VXMIResourceBehaviorManager_var>("nested")->GetBehavior(none), 0);
-    EXPECT_FALSE(none);
+    const QORStatus status = manager.GetBehavior(behaviour);
+    EXPECT_EQ(status >= 0, static_cast<bool>(behaviour));
+    return behaviour ? "behaviour \"" + ModelObject::behind(behaviour)->id() + '"' : "none";
+}
+std::string answer(VXMIResourceBehavior& behaviour) {
+    return adopted(behaviour.GetActivities(nullptr));
+}
+std::string answer(VXMIResourceFlowMgmt& flow) {
+    return adopted(flow.GetPredecessors()) + adopted(flow.GetSuccessors());
+}
+std::string answer(VXMIResourceItemMgmt& items) {
+    return adopted(items.GetAssignedItems()) + adopted(items.GetOutputItems());
+}
+
+/// The answers of an object, each with what it is called; just those of the interfaces that the object has.
+std::string answersOf(ModelObject& object) {
+    std::string text;
+    const auto add = [&](const char* called, const auto& handle) {
+        if (handle) {
+            EXPECT_EQ(handle.Impl(), &object) << called;
+            const std::string said = answer(*handle.Get());
+            text += (text.empty() ? "" : "; ") + std::string(called) + (said.empty() ? "" : " " + said);
+        }
+    };
+    add("product", QORIProduct_var(&object));
+    add("item", QORISPPItem_var(&object));
+    add("assembly", VXMIMfgAssembly_var(&object));
+    add("fastener", VXMIBIWFastener_var(&object));
+    add("activity", QORISPPActivity_var(&object));
+    add("step", QORISPPAbstractActivity_var(&object));
+    add("is", QORISpecObject_var(&object));
+    add("children", QORISPPChildManagement_var(&object));
+    add("flow", QORISPPFlowMgt_var(&object));
+    add("items", QORISPPItemMgt_var(&object));
+    add("does", VXMIResourceBehaviorManager_var(&object));
+    add("acts", VXMIResourceBehavior_var(&object));
+    add("links", VXMIResourceFlowMgmt_var(&object));
+    add("takes", VXMIResourceItemMgmt_var(&object));
+    return text;
+}
+
+TEST(Model, AnswersByKind) {
+    const auto plan = read(kWorld);
+    const std::pair<const char*, const char*> cases[] = {
+        {"product", "product product null; item product"},
+        {"parent", "product Parent [product both product]; item Parent"},
+        {"assembly", "item assembly; assembly assembly null"},
+        {"both", "product both []; item both; assembly both [fastener both]"},
+        {"fastener", "item fastener; fastener Stud 0"},
+        {"plain", "item plain; fastener  1"},
+        {"item", "item item"},
+        {"root", "activity; step Root PhysicalActivity; is PhysicalActivity; children [activity loading station "
+                 "logical][station]; flow [][]; items nullnullnullnull[]"},
+        {"activity",
+         "activity; step activity PhysicalActivity in Root; is PhysicalActivity; children nullnull; flow [][loading "
+         "logical loading] out parent out parent; items [item product][item][]null[item product plain]"},
+        {"loading", "activity; step loading BIWActivityLoading in Root; is PhysicalActivity BIWActivityLoading; "
+                    "children nullnull; flow [activity activity][]; items nullnullnullnull[]"},
+        {"station", "activity; step station Cell in Root; is PhysicalActivity BIWActivityStation; children "
+                    "[grouping][]; flow [][]; items nullnullnullnull[]"},
+        {"grouping", "activity; step grouping BIWActivityGrouping in station; is PhysicalActivity BIWActivityGrouping; "
+                     "children nullnull; flow [][]; items nullnullnullnull[]"},
+        {"logical", "step logical Logical in Root; is; children [][]; flow [activity][]; items nullnullnullnull[]"},
+        {"inner", "activity; step inner PhysicalActivity; is PhysicalActivity; children nullnull; flow [][]; items "
+                  "nullnullnullnull[]"},
+        {"resource", R"(product Robot [parent nested]; is; does behaviour "behaviour"; links nullnull)"},
+        {"nested", "product nested null; is; does none; links [activity][]"},
+        {"nameless", R"(product nameless null; is; does behaviour ""; links nullnull)"},
+        {"behaviour", "acts [inner]; links [][activity]; takes [plain]null"}};
+    for (const auto& [id, answers] : cases) {
+        EXPECT_EQ(answersOf(*plan->find(id)), answers) << id;
+    }
+    ModelObject& nameless = *static_cast<planner::Resource*>(plan->find("nameless"))->behaviour();
+    EXPECT_EQ(answersOf(nameless), "acts null; takes nullnull") << "it can't be linked";
+    const QORIProduct_var parent(plan->find("parent"));
+    EXPECT_EQ(adopted(parent->GetChildren("VXMIMfgAssembly")), "[both]");
+    const QORISPPFlowMgt_var activity(plan->find("activity"));
+    EXPECT_EQ(ids(activity->GetSuccessors("BIWActivityLoading")), "[loading loading]");
+    EXPECT_EQ(activity->GetProductOutputs(QORISPPItem_var(plan->find("item"))).Size(), 0);
 }
 
 TEST(Numbers, GoThroughItemsProcessAndResourcesWhateverTheOrderOfKeys) {

@@ -50,53 +50,25 @@ TEST(Publishing, TellsEverybodyOfEachKindThoughOneRaises) {
     EXPECT_EQ(s.text(), first);
 }
 
-TEST(Publishing, MayBeAnsweredWithAnotherEdit) {
-    Session s(kWorld);
-    const std::string first = s.text();
-    s.listener().react = [&](int kind) {
-        if (kind == 3) {
-            s.editor().rename(s.activity("new"), "Named");
-        }
+TEST(Publishing, MayBeAnsweredWithEditsUndoAndTheEndOfTheEditor) {
+    const struct {
+        void (*react)(Session& s, int kind);
+        const char* told;
+        std::size_t links;
+    } cases[] = {
+        {[](Session& s, int kind) { kind == 17 ? s.editor().rename(s.activity("load"), "L") : void(); }, "17 1 27", 3},
+        {[](Session& s, int kind) { kind == 17 && s.editor().undo(); }, "17 3 18 27", 7},
+        {[](Session& s, int) { s.endEditor(); }, "17 27", 3},
     };
-    s.editor().addActivity(s.activity("line"), {"new"});
-    EXPECT_EQ(s.listener().take(), "3 1");
-    EXPECT_EQ(s.editor().undoText(), "Rename \"new\"");
-    s.editor().undo();
-    s.editor().undo();
-    EXPECT_EQ(s.text(), first);
-}
-
-TEST(Publishing, MayBeAnsweredWithUndo) {
-    Session s(kWorld);
-    const std::string first = s.text();
-    s.listener().react = [&](int kind) {
-        if (kind == 17) {
-            s.editor().undo();
-        }
-    };
-    s.editor().removeActivity(s.activity("join"));
-    EXPECT_EQ(s.listener().take(), "17 3 18 27") << "the rest of the first step is told behind";
-    EXPECT_EQ(s.text(), first);
-}
-
-TEST(Publishing, MayEndTheEditor) {
-    Session s(kWorld);
-    s.listener().react = [&](int) {
-        s.endEditor();
-    };
-    s.editor().removeActivity(s.activity("join"));
-    EXPECT_EQ(s.listener().take(), "17 27");
-    EXPECT_EQ(s.plan().links().size(), 3U);
-}
-
-TEST(Publishing, OutlivesThePlanForThoseWhoCountOnIt) {
-    QORVar<QOREventSubscriber> publisher;
-    {
+    for (const auto& each : cases) {
         Session s(kWorld);
-        publisher = QORVar<QOREventSubscriber>(s.plan().process()->GetEventPublisher());
+        s.listener().react = [&](int kind) {
+            each.react(s, kind);
+        };
+        s.editor().removeActivity(s.activity("join"));
+        EXPECT_EQ(s.listener().take(), each.told) << "the rest of the first step is told behind";
+        EXPECT_EQ(s.plan().links().size(), each.links) << each.told;
     }
-    EXPECT_EQ(publisher->GetSubscriptionCount(), 0);
-    EXPECT_EQ(publisher->GetReferenceCount(), 1);
 }
 
 } // namespace

@@ -220,9 +220,9 @@ TEST(WindowLife, LeavesNothingOverWhereTheModelRaisesWhileItOpens) {
     testmodel::World world;
     testmodel::Thing& root = testmodel::drawPlan(world, "S1: +P *w | S2: -P >A(Q)");
     const auto before = QORLivingObjects();
+    world.calls.raiseAt = 1;
     for (bool raised = true; raised; ++world.calls.raiseAt) {
         world.calls.count = 0;
-        world.calls.raiseAt += world.calls.raiseAt == 0 ? 1 : 0;
         try {
             Window(&desk.frmEditor(), &root, 3).close();
             raised = false;
