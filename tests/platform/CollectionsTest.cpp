@@ -1,4 +1,3 @@
-#include "collections/QORHashDico.h"
 #include "collections/QORListValQORBaseUnknown_var.h"
 #include "collections/QORListValQORUnicodeString.h"
 #include "collections/QORRawCollPV.h"
@@ -105,23 +104,6 @@ TEST(TextList, FindsTheSameWithAndWithoutItsIndex) {
     ASSERT_EQ(list.Size(), std::ssize(model));
     EXPECT_STREQ(list[0], "");
     EXPECT_STREQ(list[list.Size()], model.back().c_str());
-}
-
-TEST(Dictionary, KeepsTheFirstEntryAndTheOrder) {
-    int values[3] = {};
-    QORHashDico dico(10);
-    dico.Insert("b", &values[0]);
-    dico.Insert("a", &values[1]);
-    dico.Insert("b", &values[2]);
-    EXPECT_EQ(dico.Size(), 2);
-    EXPECT_EQ(dico.Locate("B"), nullptr);
-    int position = 0;
-    int visited = 0;
-    for (void* value : {static_cast<void*>(&values[0]), static_cast<void*>(&values[1]), static_cast<void*>(nullptr)}) {
-        EXPECT_EQ(dico.NextItem(position, visited), value);
-    }
-    dico.RemoveAll();
-    EXPECT_EQ(dico.Locate("b"), nullptr);
 }
 
 } // namespace

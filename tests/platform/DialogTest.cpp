@@ -38,16 +38,6 @@ protected:
     DialogSteps steps_{log_};
 };
 
-TEST_F(Dialogs, KnowParentsChildrenAndResources) {
-    EXPECT_EQ(a_->GetParent(), frame_);
-    EXPECT_EQ(frame_->GetChildren(), (std::vector<QORDialog*>{a_, b_}));
-    EXPECT_EQ(window_->GetParent(), nullptr);
-    EXPECT_EQ(frame_->GetStyle(), 0x80000);
-    EXPECT_STREQ(window_->GetResourceFilename(0), "QORDialog");
-    EXPECT_STREQ(window_->GetResourceFilename(-1), "QORDialog");
-    EXPECT_EQ(window_->GetResourceFilename(1), nullptr);
-}
-
 TEST_F(Dialogs, AttachOnlyChildrenAndOnlyOnceAndEndLastMadeFirst) {
     EXPECT_LT(frame_->Attach4Sides(nullptr), 0);
     EXPECT_LT(a_->Attach4Sides(b_), 0) << "B is no child of A";

@@ -166,21 +166,6 @@ TEST_F(Navigator, MakesNodesWhenTheirFatherIsOpenedAndNotBefore) {
     EXPECT_EQ(log_.take(), "closed A 2 | open A 2 | open B 1");
 }
 
-TEST_F(Navigator, LetsTheExtensionGiveANodeItsLooksAtEachUpdate) {
-    const auto leaf = add("A");
-    const QORIGraphNode_var node(root().GetNode());
-    EXPECT_STREQ(root().GetNode()->IsA(), "TestLeaf_node");
-    EXPECT_STREQ(node->GetIconName(), "leaf");
-    node->SetIconName("other");
-    node->SetNodeOption(5);
-    leaf->text_ = "B";
-    element(root())->Update();
-    EXPECT_STREQ(node->GetIconName(), "leaf");
-    EXPECT_EQ(node->GetNodeOption(), kQORNodePlain);
-    EXPECT_STREQ(node->GetLabel(), "B");
-    EXPECT_EQ(log_.take(), "node A other | node A other | node B other | node B other | node B  | node B leaf");
-}
-
 TEST_F(Navigator, ShowsNodesThatNobodyExtendsPlainly) {
     const auto stone = Leaf::make("S(A)");
     stone->extended_ = false;
@@ -291,6 +276,7 @@ TEST_F(Navigator, GivesNodesTheBehaviourOfTheirExtension) {
     EXPECT_TRUE(root().IsExpanded()) << "an action opens";
     QORNavigInstance& c = *root().GetChild(2);
     const QORINavigElement_var node = element(c);
+    EXPECT_STREQ(c.GetNode()->IsA(), "TestLeaf_node");
     EXPECT_EQ(node->GetAssociatedInstance(), &c);
     EXPECT_EQ(node->GetController(), box_->GetController());
     EXPECT_EQ(node->GetFatherContainer(), root().GetTreeObject());

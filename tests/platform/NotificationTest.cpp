@@ -1,6 +1,4 @@
 #include "notification/QOREventSubscriber.h"
-#include "notification/QORSPPActivityNotification.h"
-#include "notification/QORSPPActivityNotificationDispatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -17,13 +15,12 @@ class Listener : public QOREventSubscriber {
 public:
     Listener(char letter, std::string& told) : letter_(letter), told_(told) {}
 
-    void listenTo(QOREventSubscriber& publisher, const char* event = "change") {
-        handle_ = AddCallback(this, &publisher, event, &Listener::onEvent, &clientData_);
+    void listenTo(QOREventSubscriber& publisher) {
+        handle_ = AddCallback(this, &publisher, "change", &Listener::onEvent, &clientData_);
         listensTo_ = &publisher;
-        event_ = event;
     }
     void onEvent(const char* event, void* publisher, QORNotification* notification, void* clientData, long handle) {
-        EXPECT_EQ(event, event_);
+        EXPECT_STREQ(event, "change");
         EXPECT_EQ(publisher, static_cast<void*>(listensTo_));
         EXPECT_TRUE(clientData == &clientData_ && handle == handle_);
         notification_ = notification;
@@ -44,7 +41,6 @@ private:
     char letter_;
     std::string& told_;
     QOREventSubscriber* listensTo_ = nullptr;
-    std::string event_;
     int clientData_ = 0;
 };
 
@@ -150,19 +146,6 @@ TEST_F(Publishing, SurvivesTheEndOfWhoTellsHimself) {
     self->reactWith([self] { self->Release(); });
     self->Publish("change", nullptr);
     EXPECT_EQ(told_, "S");
-}
-
-TEST_F(Publishing, GivesTheKindAsTheEventThatViewsSubscribeTo) {
-    int kind = 0;
-    b_->listenTo(*publisher_, QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE());
-    b_->reactWith([&] {
-        ASSERT_EQ(b_->notification_->IsAKindOf("QORSPPActivityNotification"), 1);
-        ASSERT_EQ(b_->notification_->IsAKindOf("QORNotification"), 1);
-        kind = dynamic_cast<QORSPPActivityNotification*>(b_->notification_->GetImpl(0))->GetNotificationKind();
-    });
-    QORSPPActivityNotificationDispatcher::Dispatch(*publisher_, 29);
-    EXPECT_EQ(kind, 29);
-    EXPECT_EQ(QORNotification().IsAKindOf("QORSPPActivityNotification"), 0);
 }
 
 } // namespace

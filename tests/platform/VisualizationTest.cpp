@@ -150,6 +150,9 @@ TEST_F(Showing, TiesSetsAndTellsTheViewerWhatIsInThem) {
     EXPECT_EQ(manager_.DetachPSOFrom(viewpoint_), QOR_OK);
     EXPECT_EQ(manager_.DetachHSOFrom(viewpoint_), QOR_OK);
     EXPECT_EQ(log_.take(), "sets 1 1 | sets 1 none | sets none none");
+    EXPECT_LT(set_.RemoveElement(pathTo(nullptr).Get()), 0);
+    EXPECT_EQ(set_.RemoveElement(pathTo(QORI3DGeoVisu_var(&one_).Get()).Get()), QOR_OK);
+    EXPECT_EQ(set_.GetElement(1), nullptr);
     auto* const brief = new QORXSO();
     manager_.AttachHSOTo(brief, viewpoint_);
     manager_.AttachPSOTo(brief, viewpoint_);
@@ -222,16 +225,6 @@ TEST_F(Showing, FollowsPathsThatGrowAtThePositionGiven) {
     EXPECT_EQ(path->GetElement(0), nullptr);
     EXPECT_EQ(path->GetElement(4), nullptr);
     EXPECT_EQ(two_.GetReferenceCount(), 2);
-}
-
-TEST_F(Showing, LosesFromASetWhatItIsToldToLose) {
-    set_.AddElement(pathTo(&one_).Get());
-    EXPECT_LT(set_.AddElement(nullptr), 0);
-    EXPECT_LT(set_.RemoveElement(pathTo(nullptr).Get()), 0);
-    EXPECT_EQ(set_.GetElement(1).Get(), &one_);
-    EXPECT_EQ(set_.RemoveElement(pathTo(QORI3DGeoVisu_var(&one_).Get()).Get()), QOR_OK);
-    EXPECT_LT(set_.RemoveElement(pathTo(&one_).Get()), 0);
-    EXPECT_EQ(set_.GetElement(1), nullptr);
 }
 
 } // namespace
