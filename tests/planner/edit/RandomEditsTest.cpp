@@ -24,22 +24,19 @@ class RandomSession : public Session {
 public:
     explicit RandomSession(unsigned seed) : Session(kWorld), random_(seed) {}
 
-    /// Makes one edit, or one step of undo or redo, or tries what is refused.
+    /// Makes one edit, a group of two, or one step of undo or redo, or tries what is refused.
     void step() {
-        switch (below(10)) {
-        case 0:
+        const std::size_t choice = below(10);
+        if (choice == 0) {
             editor().undo();
-            break;
-        case 1:
+        } else if (choice == 1) {
             editor().redo();
-            break;
-        case 2:
+        } else if (choice == 2) {
             editor().group("group", [&] {
                 tryEdit();
                 tryEdit();
             });
-            break;
-        default:
+        } else {
             tryEdit();
         }
     }

@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
-
 using editing::Desk;
 using editing::kShop;
 using editing::Listener;
@@ -97,23 +95,6 @@ TEST(WindowOnAPlan, BeginsEmptyAndFills) {
     EXPECT_EQ(window.tree(), "Bom(i)");
     EXPECT_EQ(window.shown(), "i");
     EXPECT_EQ(QORVisManager::GetVisManager()->GetHSO(*window.viewer().GetMain3DViewpoint()), desk.frmEditor().GetHSO());
-}
-
-TEST(WindowOnAPlan, ShowsOneAsAHundred) {
-    Desk desk(kShop);
-    std::deque<Window> windows;
-    for (int i = 0; i < 100; ++i) {
-        windows.push_back(desk.open(1 + i % 3));
-    }
-    desk.editor().removeActivity(desk.activity("one"));
-    for (std::size_t i = 0; i < windows.size(); ++i) {
-        EXPECT_EQ(windows[i].tree(), i % 3 == 1 ? "" : "Bom(hinge(pin))");
-        EXPECT_EQ(windows[i].shown(), i % 3 == 0 ? "no view in space" : "hinge");
-    }
-    for (; !windows.empty(); windows.pop_front()) {
-        windows.pop_back();
-    }
-    EXPECT_EQ(subscribersOf(desk), 1);
 }
 
 TEST(WindowOnAPlan, MayCloseInTheMiddleOfANotification) {
