@@ -47,7 +47,6 @@ const BillRow kOutcomes[] = {
     {"ListsOfOneStepInOrder", "S1: =Q -X *w +P >O | S2", "O P *w"},
     {"SameFastenerTwice", "S1: *w *w | S2: *w", "*w"},
     {"FastenersOfTheTwelveTypes", "S1: *a{Sealant Point} *b{Screw} *c{Nail} *d{screw} *e{Stud} | S2", "*a *b *e"},
-    {"UnassignedFastener", "S1: *w? *v | S2", "*v"},
     {"FastenerFirstAssigned", "S1: +w *w | S2", "w"},
 };
 const BillRow kFlows[] = {
@@ -132,10 +131,7 @@ const BillRow kOlder[] = {
 const BillRow kResources[] = {
     {"AllThatIsAssigned", "R@resource: +X ( C1@resource: +P >O *w | C2@resource: +Q )", "X Q O P w"},
     {"ActivitiesAndResources", "R@resource { A1: +P | C1@resource: >O | A2: +Q *w }", "Q *w O P"},
-    {"OutputsThatAreNoItems", "R@resource: +P >O | S", "P", answers("O", kProduct)},
-    {"NoBehaviour", "R@resource: +P", "", noBehaviour("R")},
     {"BehaviourWithoutItems", "R@resource: +P", "", lacks("R.b", kResourceItems)},
-    {"StatusIsNotLookedAtForItems", "R@resource: +P", "P", failingBehaviour("R")},
     {"UnlinkedFastenerTypeIsAProduct", "R@resource: *w{Nail}", "w"},
 };
 const BillRow kOlderResources[] = {

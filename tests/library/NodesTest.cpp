@@ -64,18 +64,6 @@ TEST(FlowNode, ReadsNameAndIdentity) {
     EXPECT_EQ(node.GetActivity(), handle(world["A"]));
 }
 
-TEST(FlowNode, LinksAreOneSidedAndMayRepeat) {
-    VXMFabProcessFlowNode first(nullptr, 0, 1, 0, 0);
-    VXMFabProcessFlowNode second(nullptr, 0, 2, 0, 0);
-    first.AddSuccessor(&second);
-    first.AddSuccessor(&second);
-    EXPECT_EQ(first.GetNumberOfSuccessors(), 2);
-    EXPECT_EQ(first.GetSuccessor(2), &second);
-    EXPECT_EQ(first.GetSuccessor(0), nullptr);
-    EXPECT_EQ(first.GetSuccessor(3), nullptr);
-    EXPECT_EQ(second.GetNumberOfPredecessors(), 0);
-}
-
 TEST(FlowNode, HandlesOutliveTheNode) {
     World world;
     drawPlan(world, "A: +P");
@@ -200,19 +188,6 @@ TEST(FlowNode, AsksTheModelInOrderAndNoMoreThanNeeded) {
               "GetBehavior GetAssignedItems GetOutputItems ");
 }
 
-TEST(FlowNode, StationsAboveIncludeTheStartOfTheClimb) {
-    World world;
-    drawPlan(world, "S@station { A { B } }, T { C }");
-    VXMFabProcessFlowNode node(nullptr, 0, 1, 0, 0);
-    const std::pair<const char*, int> rows[] = {{"S", 1}, {"A", 1}, {"B", 1}, {"T", 0}, {"C", 0}, {"R", 0}};
-    for (const auto& [name, expected] : rows) {
-        QORISPPAbstractActivity_var from(handle(world[name]));
-        EXPECT_EQ(node.CheckParentIsStation(from), expected) << name;
-    }
-    QORISPPAbstractActivity_var none;
-    EXPECT_EQ(node.CheckParentIsStation(none), 0);
-}
-
 TEST(FlowNode, ParentsInACircleEndTheClimb) {
     World world;
     drawPlan(world, "A { B { C } }");
@@ -222,33 +197,8 @@ TEST(FlowNode, ParentsInACircleEndTheClimb) {
     EXPECT_EQ(processNode(world["C"]).ParentIsStation(), 1);
 }
 
-TEST(FlowNode, UseProductsFollowsStationAndType) {
-    World world;
-    drawPlan(world, "S@station { L@loading, T, G@grouping }, L2@loading");
-    VXMProcessBomGenerator generator(nullptr);
-    const std::pair<const char*, const char*> rows[] = {
-        {"S", "111111"}, {"L", "010000"}, {"T", "000000"}, {"G", "000000"}, {"L2", "111111"}};
-    for (const auto& [name, expected] : rows) {
-        VXMFabProcessFlowNode node = processNode(world[name]);
-        std::string used;
-        for (int type = VXMFabMBOMNode::AT_Top; type <= VXMFabMBOMNode::AT_Fastener; ++type) {
-            used += std::to_string(generator.UseProducts(&node, VXMFabMBOMNode::AssignmentType(type)));
-        }
-        EXPECT_EQ(used, expected) << name;
-    }
-    EXPECT_EQ(generator.UseProducts(nullptr, VXMFabMBOMNode::AT_FirstAssign), 0);
-}
-
 VXMFabMBOMNode nodeOf(const QORBaseUnknown_var& product, int number = 1) {
     return {product, 1, number, VXMFabMBOMNode::AT_FirstAssign, 1};
-}
-
-TEST(MBOMNode, TheTopNodeStandsForNoProduct) {
-    const TraceCapture trace;
-    const VXMFabMBOMNode top(nullptr, 0, 0, VXMFabMBOMNode::AT_Top, 1);
-    EXPECT_EQ(top.GetUName(), "TOPNODE");
-    EXPECT_EQ(top.GetIDString(), "-1");
-    EXPECT_EQ(trace.text(), "");
 }
 
 TEST(MBOMNode, TakesItsNameFromTheFirstInterfaceThatAnswers) {
@@ -326,6 +276,7 @@ TEST(MBOMNode, OperationsWithoutANodeOrParentChangeNothing) {
         generator.CleanMBOM_2(node);
         generator.CleanMBOM_3(node, met);
     }
+    EXPECT_EQ(generator.UseProducts(nullptr, VXMFabMBOMNode::AT_FirstAssign), 0);
     EXPECT_EQ(generator.RemoveFromListAndDico(nullptr), 0);
     EXPECT_EQ(generator.RemoveNodeAndChildrenFromListAndDico(nullptr), 0);
     EXPECT_EQ(generator.CreateProductChildren(nullptr, 1, 5, {}), 5);
@@ -334,34 +285,6 @@ TEST(MBOMNode, OperationsWithoutANodeOrParentChangeNothing) {
     VXMFabMBOMNode unknown(nullptr, 0, 0, VXMFabMBOMNode::AssignmentType(6), 1);
     generator.AddMBOMNodeToList(&unknown); // isn't taken over, or the generator would delete it
     EXPECT_EQ(generator.GetTopNode(), top);
-}
-
-TEST(Structure, NumbersRunDepthFirstAndLevelsDown) {
-    World world;
-    Thing& product = drawItem(world, "A(P Q[X Y] Z)");
-    VXMProcessBomGenerator generator(nullptr);
-    generator.GetBom(0);
-    auto* const node = new VXMFabMBOMNode(handle(product), 1, 1, VXMFabMBOMNode::AT_Remove, 1);
-    generator.AddMBOMNodeToList(node);
-    EXPECT_EQ(generator.CreateProductChildren(node, 1, 2, {}), 7);
-    EXPECT_EQ(treeText(*node), "3 4(5 6) 7");
-    const VXMFabMBOMNode& deepest = *node->GetSuccessor(2)->GetSuccessor(1);
-    EXPECT_EQ(deepest.GetLevel(), 3);
-    EXPECT_EQ(deepest.GetAT(), VXMFabMBOMNode::AT_Remove);
-    EXPECT_EQ(deepest.IsRemovable(), 0);
-    EXPECT_EQ(deepest.GetPredecessor(), node->GetSuccessor(2));
-}
-
-TEST(Structure, APathThatHoldsTheAssemblyKeepsItALeaf) {
-    World world;
-    Thing& assembly = drawItem(world, "A[P]");
-    QORListValQORBaseUnknown_var path;
-    path.Append(VXMIMfgAssembly_var(handle(assembly)));
-    VXMProcessBomGenerator generator(nullptr);
-    VXMFabMBOMNode node = nodeOf(handle(assembly));
-    EXPECT_EQ(generator.CreateProductChildren(&node, 1, 2, path), 2);
-    EXPECT_EQ(node.GetNumberOfSuccessors(), 0);
-    EXPECT_EQ(path.Size(), 1);
 }
 
 } // namespace

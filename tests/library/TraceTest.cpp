@@ -8,12 +8,6 @@ using namespace testmodel;
 
 namespace {
 
-/// Lines of a text from the first one that is `from` on.
-std::string linesFrom(const std::string& text, const std::string& from) {
-    const std::size_t begin = ("\n" + text).find("\n" + from + "\n");
-    return begin == std::string::npos ? "(no such line)" : text.substr(begin);
-}
-
 /// What is traced while a flow is walked.
 std::string walkText(VXMBomGenerator& generator) {
     const TraceCapture trace;
@@ -71,59 +65,6 @@ TEST(Trace, WalkOfANestedPlan) {
     EXPECT_EQ(walkText(generator), expected);
 }
 
-TEST(Trace, DumpsOfTheTree) {
-    World world;
-    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +P *w | S2: -P >A(Q)")));
-    const TraceCapture trace;
-    generator.GetBom(0);
-    std::string expected = R"(--> VXMBomGenerator::CreateMBOM 
---> VXMBomGenerator::CreateMBOM 
-Number: 1ID: 6Name A
-Number: 3ID: 7Name Q
-Number: 3ID: 3Name P
---> VXMBomGenerator::CreateMBOM 
-Number: 4ID: 3Name P
-Number: 5ID: 4Name w
---- TRACE 1 ---
---- 0--- 
-N 0 TOPNODE
---- 1--- 
-N 4 P
---- 2--- 
---- 3--- 
-N 3 P
---- 4--- 
-N 1 A
-N 3 Q
---- TRACE 2 ---
-
---- 0--- 
-N 0 S 1 S 3 S 4 S 5 *
---- 1--- 
-N 4 P 0 *
---- 2--- 
---- 3--- 
-N 3 P 0 *
---- 4--- 
-N 1 P 0 S 3 *
-N 3 P 1 *
-)";
-    for (int pass = 1; pass <= 3; ++pass) { // the first one pairs P, the others find nothing
-        expected += R"(--- TRACE 2 ---
-
---- 0--- 
-N 0 S 1 S 5 *
---- 1--- 
---- 2--- 
---- 3--- 
---- 4--- 
-N 1 P 0 S 3 *
-N 3 P 1 *
-)";
-    }
-    EXPECT_EQ(linesFrom(trace.text(), "--> VXMBomGenerator::CreateMBOM "), expected);
-}
-
 TEST(Trace, ANullFlowNodeIsMarkedAllTheSame) {
     VXMProcessBomGenerator generator(nullptr);
     const TraceCapture trace;
@@ -136,8 +77,8 @@ TEST(Trace, ARegisteredNullNodeIsPassedOver) {
     World world;
     VXMResourceBomGenerator generator(handle(drawResource(world, "R@resource ( C1@resource | C2@resource )")));
     World::link(world["C1"], world.thing("X", kItem));
-    EXPECT_EQ(linesFrom(walkText(generator), "Number 1P1: 2 *"),
-              "Number 1P1: 2 *\nNumber 2S1: 3S2: 1 *\nNumber 3P1: 2 *\n");
+    const std::string text = walkText(generator);
+    EXPECT_TRUE(text.ends_with("Number 1P1: 2 *\nNumber 2S1: 3S2: 1 *\nNumber 3P1: 2 *\n")) << text;
 }
 
 TEST(Trace, FastenersAreWrittenBeforeTheyAreFiltered) {

@@ -141,15 +141,6 @@ TEST(Walk, ANullNodeGivesBackWhatCameBefore) {
     }
 }
 
-TEST(Walk, LevelsFollowTheTreeAndStayAlongLinks) {
-    World world;
-    VXMProcessBomGenerator generator(handle(drawPlan(world, "A | B { C | D }")));
-    generator.MainCheckFlow();
-    for (const auto& [name, level] : std::map<std::string, int>{{"R", 0}, {"A", 1}, {"B", 1}, {"C", 2}, {"D", 2}}) {
-        EXPECT_EQ(generator.CheckUse(handle(world[name]))->GetLevel(), level) << name;
-    }
-}
-
 struct StandaloneRow {
     const char* name;
     unsigned answers;

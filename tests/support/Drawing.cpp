@@ -39,6 +39,7 @@ public:
         }
     }
 
+private:
     Thing& item() {
         const std::string own = name();
         if (takeHere('(')) {
@@ -50,7 +51,6 @@ public:
         return world_.thing(own, kItem);
     }
 
-private:
     Thing& step(Thing* parent) {
         const std::string own = name();
         const std::string kind = take('@') ? name() : "";
@@ -204,10 +204,6 @@ Thing& drawResource(World& world, std::string_view drawing) {
     Thing& root = *reader.steps(nullptr).at(0);
     reader.furtherLinks();
     return root;
-}
-
-Thing& drawItem(World& world, std::string_view drawing) {
-    return Reader(world, drawing).item();
 }
 
 } // namespace testmodel

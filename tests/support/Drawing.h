@@ -24,7 +24,4 @@ Thing& drawPlan(World& world, std::string_view drawing);
 /// Draws resources; the first one is the root and is given back.
 Thing& drawResource(World& world, std::string_view drawing);
 
-/// Draws one item with its structure.
-Thing& drawItem(World& world, std::string_view drawing);
-
 } // namespace testmodel
