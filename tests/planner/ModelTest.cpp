@@ -13,7 +13,6 @@
 
 using namespace plantext;
 using planner::ModelObject;
-using planner::Plan;
 
 namespace {
 

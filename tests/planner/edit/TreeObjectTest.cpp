@@ -3,10 +3,8 @@
 #include "planner/edit/WindowDesk.h"
 #include "support/BomText.h"
 
-#include "framework/QORDictionary.h"
 #include "framework/QORMetaClass.h"
 #include "model/QORISPPControlFlow.h"
-#include "navigation/QORIGraphNode.h"
 #include "navigation/QORINavigElement.h"
 #include "navigation/QORINavigModify.h"
 #include "navigation/QORINavigateObject.h"

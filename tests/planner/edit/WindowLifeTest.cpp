@@ -21,7 +21,6 @@
 #include <sstream>
 
 using editing::Desk;
-using editing::findBelow;
 using editing::kShop;
 using editing::Window;
 using recording::Log;
