@@ -57,7 +57,8 @@ VXMFabBomViewer::VXMFabBomViewer(const QORString& iName, QORFrmEditor* iEditor, 
     MakeViewer();
     MakeGenerator(iRoot);
     const QORINavigateObjectPPR_var treeRoot(_generator ? MakeTreeObject(_generator->GetBom(0)) : nullptr);
-    _navigBox = CreateNavigBox(_viewer, iEditor, treeRoot, "Bom Navig", 1, kQORDepthUnlimited, kWidth, kHeight, 0);
+    _navigBox = VXMFabBomViewer::CreateNavigBox(_viewer, iEditor, treeRoot, "Bom Navig", 1, kQORDepthUnlimited, kWidth,
+                                                kHeight, 0);
     SetViewerSelectable(_viewer);
     if (HasItems()) {
         _visManager = QORVisManager::GetVisManager();
