@@ -4,10 +4,14 @@
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
+#include "navigation/QORINavigateObject.h"
 #include "notification/QORSPPActivityNotification.h"
 #include "visualization/QORVisManager.h"
 
 #include <gtest/gtest.h>
+
+#include <deque>
+#include <memory>
 
 using editing::Desk;
 using editing::kShop;
@@ -95,6 +99,42 @@ TEST(WindowOnAPlan, BeginsEmptyAndFills) {
     EXPECT_EQ(window.tree(), "Bom(i)");
     EXPECT_EQ(window.shown(), "i");
     EXPECT_EQ(QORVisManager::GetVisManager()->GetHSO(*window.viewer().GetMain3DViewpoint()), desk.frmEditor().GetHSO());
+}
+
+TEST(WindowOnAPlan, ShowsOneAsAHundred) {
+    Desk desk(kShop);
+    std::deque<Window> windows;
+    for (int i = 0; i < 100; ++i) {
+        windows.push_back(desk.open(1 + i % 3));
+    }
+    EXPECT_EQ(subscribersOf(desk), 101) << "and the session";
+    desk.editor().removeActivity(desk.activity("one"));
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(windows[static_cast<std::size_t>(i)].tree(), i % 3 == 1 ? "" : "Bom(hinge(pin))");
+        EXPECT_EQ(windows[static_cast<std::size_t>(i)].shown(), i % 3 == 0 ? "no view in space" : "hinge");
+    }
+    while (windows.size() > 1) { // from both ends
+        windows.pop_back();
+        windows.pop_front();
+    }
+    windows.clear();
+    EXPECT_EQ(subscribersOf(desk), 1);
+}
+
+TEST(WindowOnAPlan, LeavesTreeObjectsOfEarlierBillsReadable) {
+    Desk desk(kShop);
+    const Window window = desk.open(kTree);
+    window.tree();
+    const QORVar<QORNavigInstance> root(window.box().GetRoot(1));
+    const QORINavigateObject_var old(root->GetTreeObject());
+    desk.editor().removeItem(desk.item("door"));
+    EXPECT_EQ(window.tree(), "Bom(hinge(pin))");
+    EXPECT_EQ(root->GetBox(), nullptr);
+    const std::unique_ptr<QORListValQORBaseUnknown_var> children(old->GetChildren());
+    ASSERT_EQ(children->Size(), 2);
+    const std::unique_ptr<QORListValQORUnicodeString> label(
+        QORINavigateObject_var((*children)[2])->GetIdentificators());
+    EXPECT_EQ((*label)[1].Compare("door"), 2);
 }
 
 TEST(WindowOnAPlan, MayCloseInTheMiddleOfANotification) {

@@ -233,6 +233,21 @@ TEST(WindowLife, LeavesNothingOverWhereTheModelRaisesWhileItOpens) {
     EXPECT_EQ(desk.plan().process()->GetEventPublisher()->GetSubscriptionCount(), 1) << "the session's";
 }
 
+/// Ends the frame that the viewer stands in while the viewer waits for the dialog loop.
+TEST(WindowLife, EndsAViewerThatWaitsWithItsFrameOnce) {
+    Desk desk(kShop);
+    Diary diary;
+    Window window = desk.open(3);
+    window.viewer().RequestDelayedDestruction();
+    EXPECT_EQ(QORDialogLoop::Get().GetWaitingCount(), 1);
+    diary.take();
+    window.close();
+    const std::string text = diary.take();
+    EXPECT_EQ(text.find("ended  3D Bom Viewer"), text.rfind("ended  3D Bom Viewer")) << text;
+    EXPECT_NE(text.find("ended  3D Bom Viewer"), std::string::npos) << text;
+    EXPECT_EQ(QORDialogLoop::Get().GetWaitingCount(), 0);
+}
+
 TEST(WindowLife, MayBeEndedByAPersonWhenTheLoopRuns) {
     Desk desk(kShop);
     QORBaseUnknown_var root(desk.plan().process());
