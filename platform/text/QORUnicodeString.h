@@ -17,8 +17,8 @@ public:
     explicit QORUnicodeString(std::string iText) : _text(std::move(iText)) {}
     explicit QORUnicodeString(std::string_view iText) : _text(iText) {}
 
-    /// Length in characters. In text that is no UTF-8 a character that is cut short counts as one, and so does each byte
-    /// that begins none.
+    /// Length in characters. In text that is no UTF-8 a character that is cut short counts as one, and so does each
+    /// byte that begins none.
     int GetLengthInChar() const;
 
     /// iCount characters from position iFirst (1 is the first). What lies outside the text is left out.
