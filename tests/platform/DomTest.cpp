@@ -41,7 +41,7 @@ DOM_Element topWith(std::initializer_list<const char*> children) {
 TEST(DomText, ComesBackAsItWentInBeyondOneBlockOfTheTranscoder) {
     for (std::string text : {"", "plain", "Größe", "€ and 𝄞", "<&>\"'"}) {
         EXPECT_EQ(narrow(DOMString(text.c_str())), text);
-        while (text.size() > 0 && text.size() < 60000) {
+        while (!text.empty() && text.size() < 60000) {
             text += text;
         }
         EXPECT_EQ(narrow(DOMString(text.c_str())), text);

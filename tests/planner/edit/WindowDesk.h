@@ -21,10 +21,8 @@ extern const char* const kShop;
 template <class T>
 T* findBelow(const QORDialog& dialog) {
     for (QORDialog* child : dialog.GetChildren()) {
-        if (auto* const found = dynamic_cast<T*>(child)) {
-            return found;
-        }
-        if (auto* const found = findBelow<T>(*child)) {
+        auto* const here = dynamic_cast<T*>(child);
+        if (auto* const found = here || !child ? here : findBelow<T>(*child)) {
             return found;
         }
     }
