@@ -1,3 +1,3 @@
-#include "VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 
 QORTrace VXMBomViewerTrace("VXMBomViewerTrace", "Traces for module VXMBomViewerTrace", 0, "STDERR", 1024);

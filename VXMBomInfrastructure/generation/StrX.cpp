@@ -1,6 +1,6 @@
-#include "generation/StrX.h"
+#include "VXMBomInfrastructure/generation/StrX.h"
 
-#include "dom/XMLString.h"
+#include "QORPlatform/dom/XMLString.h"
 
 StrX::StrX(const unsigned short* iWide) : _text(XMLString::transcode(iWide)) {}
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "dom/DOMString.h"
+#include "QORPlatform/dom/DOMString.h"
+#include "VXMBomInfrastructure/VXMExport.h"
 
 /// Narrow text of a wide text of the document, owned for as long as this object lives.
 class VXM_EXPORT StrX {

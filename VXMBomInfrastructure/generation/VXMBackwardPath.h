@@ -1,6 +1,6 @@
 #pragma once
 
-#include "nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
 #include <vector>
 

@@ -1,17 +1,17 @@
 // Driver of one computation: the model is walked into a flow graph, the graph turned into MBOM nodes, these are thinned
 // out by three passes, and what remains is written as a document. Construction reads settings and algorithm once.
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
-#include "dom/QORXMLParser.h"
-#include "framework/QORComponents.h"
-#include "framework/QORDeepStack.h"
-#include "framework/QORModelIdentificator.h"
-#include "framework/QORProcessServices.h"
-#include "generation/VXMFirstItemSearch.h"
-#include "model/VXMIMVWMBOMViewerSettingAtt.h"
-#include "nodes/VXMFlowEnds.h"
-#include "nodes/VXMStationMemo.h"
+#include "QORPlatform/dom/QORXMLParser.h"
+#include "QORPlatform/framework/QORComponents.h"
+#include "QORPlatform/framework/QORDeepStack.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORProcessServices.h"
+#include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
+#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "VXMBomInfrastructure/nodes/VXMFlowEnds.h"
+#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
 #include <utility>
 

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "collections/QORHashDico.h"
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORListValQORUnicodeString.h"
-#include "collections/QORRawCollPV.h"
-#include "dom/DOM_Document.h"
-#include "nodes/VXMFabFlowNode.h"
-#include "nodes/VXMFabIDCounts.h"
-#include "nodes/VXMFabMBOMNode.h"
-#include "nodes/VXMFabMBOMRegister.h"
+#include "QORPlatform/collections/QORHashDico.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/collections/QORRawCollPV.h"
+#include "QORPlatform/dom/DOM_Document.h"
+#include "VXMBomInfrastructure/VXMExport.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabIDCounts.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMRegister.h"
 
 #include <array>
 #include <functional>

@@ -10,7 +10,7 @@
 // A pass goes through a list by places, so nodes that leave, or are lifted to its end, don't disturb it: what was
 // lifted while a pass runs over a list isn't part of that run.
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <unordered_set>
 #include <utility>

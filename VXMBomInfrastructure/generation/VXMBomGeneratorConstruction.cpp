@@ -6,12 +6,12 @@
 // comes before it go. A flow node that is on the present path isn't entered again, so that loops end. The number runs
 // along each path by itself and starts anew at each predecessor.
 
-#include "VXMBomViewerTrace.h"
-#include "generation/VXMBackwardPath.h"
-#include "generation/VXMBomGenerator.h"
-#include "generation/VXMFlowLists.h"
-#include "generation/VXMFruitfulSteps.h"
-#include "generation/VXMStructureExpansion.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/generation/VXMBackwardPath.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMFlowLists.h"
+#include "VXMBomInfrastructure/generation/VXMFruitfulSteps.h"
+#include "VXMBomInfrastructure/generation/VXMStructureExpansion.h"
 
 #include <algorithm>
 #include <memory>

@@ -3,7 +3,7 @@
 // A node gets an element by its assignment type; one without stands aside for its children, which go under the element
 // of the nearest ancestor that has one. The list of objects is filled on the same walk, children before their parent.
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <vector>
 

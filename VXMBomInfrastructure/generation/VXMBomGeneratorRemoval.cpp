@@ -1,6 +1,6 @@
 // Taking nodes out of the MBOM: out of the tree, out of the registries, and out of existence.
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <vector>
 

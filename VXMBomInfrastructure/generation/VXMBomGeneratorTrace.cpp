@@ -1,7 +1,7 @@
 // Dumps of the flow graph and of the MBOM tree. None of them costs anything while the trace is off.
 
-#include "VXMBomViewerTrace.h"
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 namespace {
 

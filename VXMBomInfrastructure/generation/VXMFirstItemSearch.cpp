@@ -1,6 +1,6 @@
-#include "generation/VXMFirstItemSearch.h"
+#include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
 
-#include "framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORVar.h"
 
 #include <optional>
 #include <unordered_map>

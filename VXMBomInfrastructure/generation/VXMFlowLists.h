@@ -1,7 +1,7 @@
 #pragma once
 
-#include "nodes/VXMFabFlowNode.h"
-#include "nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 #include <array>
 

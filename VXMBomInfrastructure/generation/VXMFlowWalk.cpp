@@ -1,11 +1,11 @@
-#include "generation/VXMFlowWalk.h"
+#include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
 
-#include "VXMBomViewerTrace.h"
-#include "framework/QORDeepStack.h"
-#include "framework/QORModelIdentificator.h"
-#include "generation/VXMBomGenerator.h"
-#include "model/QORISPPAbstractActivity.h"
-#include "model/QORISpecObject.h"
+#include "QORPlatform/framework/QORDeepStack.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
 
 #include <memory>
 

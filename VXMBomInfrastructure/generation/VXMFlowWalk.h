@@ -1,6 +1,6 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 
 class VXMBomGenerator;
 class VXMFabFlowNode;

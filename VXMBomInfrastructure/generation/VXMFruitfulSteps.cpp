@@ -1,6 +1,6 @@
-#include "generation/VXMFruitfulSteps.h"
+#include "VXMBomInfrastructure/generation/VXMFruitfulSteps.h"
 
-#include "nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
 /// Gathers the steps before the end; false, and nothing gathered, when no step is joined, so that there is nothing to
 /// gain.

@@ -1,4 +1,4 @@
-#include "generation/VXMHandleOrder.h"
+#include "VXMBomInfrastructure/generation/VXMHandleOrder.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "VXMBomInfrastructure/VXMExport.h"
 
 /// Orders handles by the addresses of the implementations behind them. A null handle on either side raises
 /// QORNullVarError.

@@ -1,8 +1,8 @@
-#include "generation/VXMStructureExpansion.h"
+#include "VXMBomInfrastructure/generation/VXMStructureExpansion.h"
 
-#include "generation/VXMBomGenerator.h"
-#include "model/QORIProduct.h"
-#include "model/VXMIMfgAssembly.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
-#include "collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 
 #include <memory>
 #include <unordered_map>

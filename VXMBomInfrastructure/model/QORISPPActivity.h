@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// A concrete activity of a process plan. Asked for by cast alone: it tells steps from logical nodes.
 class QORISPPActivity : public QORBaseUnknown {

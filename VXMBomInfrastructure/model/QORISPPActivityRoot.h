@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// The activity at the top of a process plan. Asked for by cast alone: it tells the root from other activities.
 class QORISPPActivityRoot : public QORBaseUnknown {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// A control-flow link as an object of the plan. Asked for by cast alone.
 class QORISPPControlFlow : public QORBaseUnknown {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "model/QORISPPItem.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
 
 /// Control flow through an activity or a logical node. Both views list the same links.
 class QORISPPFlowMgt : public QORBaseUnknown {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 /// An item that an activity or a resource can list: a product, an assembly, a fastener, a tool.
 class QORISPPItem : public QORBaseUnknown {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 /// An object that has a model type, with the types that this one derives from.
 class QORISpecObject : public QORBaseUnknown {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// The fastener settings of the BOM, behind the component "VXMMVWMBOMViewerSettingCtrl". Each operation fills oValue,
 /// where 1 alone means on, or leaves it alone; the results aren't looked at.

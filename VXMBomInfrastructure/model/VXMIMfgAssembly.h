@@ -1,9 +1,9 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 /// A manufacturing assembly: an item that lists what it holds.
 class VXMIMfgAssembly : public QORBaseUnknown {

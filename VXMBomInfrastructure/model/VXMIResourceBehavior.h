@@ -1,8 +1,8 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// What a resource does: its activities, and whatever else the behaviour object answers.
 class VXMIResourceBehavior : public QORBaseUnknown {

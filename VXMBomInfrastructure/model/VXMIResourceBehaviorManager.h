@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "model/VXMIResourceBehavior.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehavior.h"
 
 /// A resource that has a behaviour.
 class VXMIResourceBehaviorManager : public QORBaseUnknown {

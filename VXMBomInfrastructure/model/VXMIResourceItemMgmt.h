@@ -1,8 +1,8 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// Items of a behaviour. Each call gives a new list that the caller deletes, or null.
 class VXMIResourceItemMgmt : public QORBaseUnknown {

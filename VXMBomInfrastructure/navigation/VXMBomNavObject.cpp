@@ -1,10 +1,10 @@
-#include "navigation/VXMBomNavObject.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
 
-#include "framework/QORDictionary.h"
-#include "generation/StrX.h"
-#include "navigation/VXMBomNavObjectTies.h"
-#include "process/VXMProcessBomGenerator.h"
-#include "visualization/QORPathElement.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/visualization/QORPathElement.h"
+#include "VXMBomInfrastructure/generation/StrX.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObjectTies.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 
 #include <memory>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORListValQORUnicodeString.h"
-#include "dom/DOM_Element.h"
-#include "framework/QORObjectCounts.h"
-#include "model/QORISPPActivity.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/dom/DOM_Element.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "VXMBomInfrastructure/VXMExport.h"
+#include "VXMBomInfrastructure/model/QORISPPActivity.h"
 
 class QORPathElement;
 

@@ -1,4 +1,4 @@
-#include "navigation/VXMBomNavObjectTies.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObjectTies.h"
 
 QORBaseUnknown* CreateTIEQORINavigateObjectVXMBomNavObject(QORBaseUnknown* iImplementation) {
     return new TIEQORINavigateObjectVXMBomNavObject(static_cast<VXMBomNavObject*>(iImplementation));

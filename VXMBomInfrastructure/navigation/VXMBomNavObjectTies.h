@@ -1,9 +1,9 @@
 #pragma once
 
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORINavigateObjectModify.h"
-#include "navigation/QORINavigateObjectPPR.h"
-#include "navigation/VXMBomNavObject.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectModify.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
 
 // The forwarders of VXMBomNavObject, and the factories that the dictionary knows them by.
 

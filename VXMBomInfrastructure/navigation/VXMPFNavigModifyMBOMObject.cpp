@@ -1,8 +1,8 @@
-#include "navigation/VXMPFNavigModifyMBOMObject.h"
+#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObject.h"
 
-#include "framework/QORDictionary.h"
-#include "navigation/QORIGraphNode.h"
-#include "navigation/VXMPFNavigModifyMBOMObjectTies.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/navigation/QORIGraphNode.h"
+#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObjectTies.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "navigation/QORNodeExtension.h"
+#include "QORPlatform/navigation/QORNodeExtension.h"
+#include "VXMBomInfrastructure/VXMExport.h"
 
 /// Extension of the nodes that the navigator makes for BOM objects: gives them the product icon at each update. Apart
 /// from that, and from actions, after which nothing happens, they behave like any other node.

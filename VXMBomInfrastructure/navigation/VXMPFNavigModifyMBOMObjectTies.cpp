@@ -1,4 +1,4 @@
-#include "navigation/VXMPFNavigModifyMBOMObjectTies.h"
+#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObjectTies.h"
 
 QORBaseUnknown* CreateTIEQORINavigModifyVXMPFNavigModifyMBOMObject(QORBaseUnknown* iImplementation) {
     return new TIEQORINavigModifyVXMPFNavigModifyMBOMObject(static_cast<VXMPFNavigModifyMBOMObject*>(iImplementation));

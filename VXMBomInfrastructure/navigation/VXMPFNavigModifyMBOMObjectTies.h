@@ -1,8 +1,8 @@
 #pragma once
 
-#include "navigation/QORINavigElement.h"
-#include "navigation/QORINavigModify.h"
-#include "navigation/VXMPFNavigModifyMBOMObject.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORINavigModify.h"
+#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObject.h"
 
 // The forwarders of VXMPFNavigModifyMBOMObject, and the factories that the dictionary knows them by.
 

@@ -1,11 +1,11 @@
-#include "nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
-#include "VXMBomViewerTrace.h"
-#include "framework/QORModelIdentificator.h"
-#include "model/QORISPPItem.h"
-#include "model/QORISpecObject.h"
-#include "model/VXMIBIWFastener.h"
-#include "nodes/VXMStationMemo.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
+#include "VXMBomInfrastructure/model/VXMIBIWFastener.h"
+#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORRawCollPV.h"
-#include "framework/QORObjectCounts.h"
-#include "model/QORISPPAbstractActivity.h"
-#include "text/QORString.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORRawCollPV.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/text/QORString.h"
+#include "QORPlatform/text/QORUnicodeString.h"
+#include "VXMBomInfrastructure/VXMExport.h"
+#include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 
 #include <array>
 #include <cstdint>

@@ -1,11 +1,11 @@
-#include "nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
-#include "VXMBomViewerTrace.h"
-#include "framework/QORModelIdentificator.h"
-#include "model/QORIProduct.h"
-#include "model/QORISPPItem.h"
-#include "model/VXMIMfgAssembly.h"
-#include "nodes/VXMFabSiblingIndex.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
+#include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
+#include "VXMBomInfrastructure/nodes/VXMFabSiblingIndex.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "framework/QORObjectCounts.h"
-#include "framework/QORVar.h"
-#include "nodes/VXMFabPlaces.h"
-#include "text/QORString.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORString.h"
+#include "QORPlatform/text/QORUnicodeString.h"
+#include "VXMBomInfrastructure/VXMExport.h"
+#include "VXMBomInfrastructure/nodes/VXMFabPlaces.h"
 
 #include <memory>
 

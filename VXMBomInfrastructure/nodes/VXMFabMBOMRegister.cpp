@@ -1,6 +1,6 @@
-#include "nodes/VXMFabMBOMRegister.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMRegister.h"
 
-#include "nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 void VXMFabMBOMRegister::Append(VXMFabMBOMNode* iNode) {
     iNode->_placeInRegister = _nodes.Append(iNode);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "nodes/VXMFabPlaces.h"
+#include "VXMBomInfrastructure/nodes/VXMFabPlaces.h"
 
 /// The living MBOM nodes of one assignment type in the order in which they were made. A node leaves in constant time.
 class VXMFabMBOMRegister {

@@ -1,9 +1,9 @@
-#include "nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 
-#include "model/QORISPPFlowMgt.h"
-#include "model/QORISPPItemMgt.h"
-#include "model/QORISPPProductIO.h"
-#include "nodes/VXMStationMemo.h"
+#include "VXMBomInfrastructure/model/QORISPPFlowMgt.h"
+#include "VXMBomInfrastructure/model/QORISPPItemMgt.h"
+#include "VXMBomInfrastructure/model/QORISPPProductIO.h"
+#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "nodes/VXMFabResourceFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabResourceFlowNode.h"
 
-#include "model/QORIProduct.h"
-#include "model/QORISPPItem.h"
-#include "model/VXMIResourceItemMgmt.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
+#include "VXMBomInfrastructure/model/VXMIResourceItemMgmt.h"
 
 #include <memory>
 

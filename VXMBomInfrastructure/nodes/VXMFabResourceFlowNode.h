@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/VXMIResourceBehaviorManager.h"
-#include "nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehaviorManager.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
 /// Flow node of a resource with a behaviour: what is assigned to the behaviour counts as first assigned, and what it
 /// puts out as output. There are no assigned and no removed products, and it never stands in a station.

@@ -1,6 +1,6 @@
-#include "nodes/VXMFabSiblingIndex.h"
+#include "VXMBomInfrastructure/nodes/VXMFabSiblingIndex.h"
 
-#include "nodes/VXMFabMBOMNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "nodes/VXMFabPlaces.h"
+#include "VXMBomInfrastructure/nodes/VXMFabPlaces.h"
 
 #include <unordered_map>
 #include <vector>

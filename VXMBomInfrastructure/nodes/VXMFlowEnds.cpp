@@ -6,9 +6,9 @@
 // with their neighbour before them, and from then on a search in that tree asks for the place where it enters the loop,
 // which every node remembers (`loopEntry`).
 
-#include "nodes/VXMFlowEnds.h"
+#include "VXMBomInfrastructure/nodes/VXMFlowEnds.h"
 
-#include "nodes/VXMFabFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "nodes/VXMStationMemo.h"
+#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
-#include "framework/QORModelIdentificator.h"
-#include "model/QORISpecObject.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
 
 #include <vector>
 

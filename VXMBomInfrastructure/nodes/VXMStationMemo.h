@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/QORISPPAbstractActivity.h"
+#include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 
 #include <unordered_map>
 

@@ -1,6 +1,6 @@
-#include "process/VXMActivityLinks.h"
+#include "VXMBomInfrastructure/process/VXMActivityLinks.h"
 
-#include "model/QORISPPChildManagement.h"
+#include "VXMBomInfrastructure/model/QORISPPChildManagement.h"
 
 namespace {
 

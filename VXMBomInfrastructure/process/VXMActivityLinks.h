@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/QORISPPFlowMgt.h"
+#include "VXMBomInfrastructure/model/QORISPPFlowMgt.h"
 
 #include <memory>
 #include <optional>

@@ -2,13 +2,13 @@
 // its brothers, and then into the activity itself, whose node thus means that all below it is finished. See VXMFlowWalk
 // for the steps, and VXMResourceBomGenerator for the walk of a resource beside this one.
 
-#include "process/VXMProcessBomGenerator.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 
-#include "generation/VXMFlowWalk.h"
-#include "model/QORISPPActivity.h"
-#include "model/QORISpecObject.h"
-#include "nodes/VXMFabProcessFlowNode.h"
-#include "process/VXMActivityLinks.h"
+#include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
+#include "VXMBomInfrastructure/model/QORISPPActivity.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/process/VXMActivityLinks.h"
 
 VXMProcessBomGenerator::VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot) : VXMBomGenerator(iRoot) {}
 

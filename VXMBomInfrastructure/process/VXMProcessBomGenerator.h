@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 /// Generator for a process plan, whose activities contain each other and follow each other.
 class VXM_EXPORT VXMProcessBomGenerator : public VXMBomGenerator {

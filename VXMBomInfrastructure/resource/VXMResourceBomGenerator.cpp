@@ -10,16 +10,16 @@
 //   no node for a successor      skipped           skipped            registered as null and walked
 //   nothing before, no children  no end            its own end        no end
 
-#include "resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
-#include "generation/VXMFlowWalk.h"
-#include "model/QORIProduct.h"
-#include "model/QORISpecObject.h"
-#include "model/VXMIResourceBehaviorManager.h"
-#include "model/VXMIResourceFlowMgmt.h"
-#include "nodes/VXMFabProcessFlowNode.h"
-#include "nodes/VXMFabResourceFlowNode.h"
-#include "process/VXMActivityLinks.h"
+#include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehaviorManager.h"
+#include "VXMBomInfrastructure/model/VXMIResourceFlowMgmt.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabResourceFlowNode.h"
+#include "VXMBomInfrastructure/process/VXMActivityLinks.h"
 
 #include <memory>
 

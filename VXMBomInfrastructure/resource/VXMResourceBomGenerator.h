@@ -1,7 +1,7 @@
 #pragma once
 
-#include "generation/VXMBomGenerator.h"
-#include "model/VXMIResourceBehavior.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehavior.h"
 
 class VXMFlowWalk;
 

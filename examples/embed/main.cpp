@@ -3,17 +3,17 @@
 // A model object derives from QORBaseUnknown, holds one forwarder per interface that it answers, and names them in
 // QueryInterface. That is all that the generator needs to know of it.
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "dom/DOM_Document.h"
-#include "generation/StrX.h"
-#include "model/QORISPPAbstractActivity.h"
-#include "model/QORISPPActivity.h"
-#include "model/QORISPPChildManagement.h"
-#include "model/QORISPPFlowMgt.h"
-#include "model/QORISPPItem.h"
-#include "model/QORISPPItemMgt.h"
-#include "model/QORISpecObject.h"
-#include "process/VXMProcessBomGenerator.h"
+#include <QORPlatform/collections/QORListValQORBaseUnknown_var.h>
+#include <QORPlatform/dom/DOM_Document.h>
+#include <VXMBomInfrastructure/generation/StrX.h>
+#include <VXMBomInfrastructure/model/QORISPPAbstractActivity.h>
+#include <VXMBomInfrastructure/model/QORISPPActivity.h>
+#include <VXMBomInfrastructure/model/QORISPPChildManagement.h>
+#include <VXMBomInfrastructure/model/QORISPPFlowMgt.h>
+#include <VXMBomInfrastructure/model/QORISPPItem.h>
+#include <VXMBomInfrastructure/model/QORISPPItemMgt.h>
+#include <VXMBomInfrastructure/model/QORISpecObject.h>
+#include <VXMBomInfrastructure/process/VXMProcessBomGenerator.h>
 
 #include <iostream>
 #include <string>

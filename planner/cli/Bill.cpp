@@ -1,6 +1,6 @@
 #include "planner/cli/Bill.h"
 
-#include "dom/XMLString.h"
+#include "QORPlatform/dom/XMLString.h"
 
 namespace planner {
 

@@ -2,7 +2,7 @@
 
 #include "planner/model/ModelObject.h"
 
-#include "dom/DOM_Document.h"
+#include "QORPlatform/dom/DOM_Document.h"
 
 #include <string>
 #include <vector>

@@ -5,7 +5,7 @@
 
 #include "planner/file/JsonText.h"
 
-#include "generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <algorithm>
 #include <iterator>

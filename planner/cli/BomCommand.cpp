@@ -9,8 +9,8 @@
 #include "planner/file/SourceText.h"
 #include "planner/model/FastenerSettings.h"
 
-#include "process/VXMProcessBomGenerator.h"
-#include "resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
+#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
 #include <cstdlib>
 #include <filesystem>

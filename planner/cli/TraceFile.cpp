@@ -1,6 +1,6 @@
 #include "planner/cli/TraceFile.h"
 
-#include "trace/QORTrace.h"
+#include "QORPlatform/trace/QORTrace.h"
 
 #include <cerrno>
 #include <cstring>

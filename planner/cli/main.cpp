@@ -6,7 +6,7 @@
 
 #include "planner/file/TextSink.h"
 
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <cerrno>
 #include <exception>

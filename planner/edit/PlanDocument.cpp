@@ -1,7 +1,7 @@
 #include "planner/edit/PlanDocument.h"
 
-#include "framework/QORMetaClass.h"
-#include "model/QORISPPProcessContainer.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "VXMBomInfrastructure/model/QORISPPProcessContainer.h"
 
 #include <string_view>
 

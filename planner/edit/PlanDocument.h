@@ -2,8 +2,8 @@
 
 #include "planner/model/Plan.h"
 
-#include "frame/QORInit.h"
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/frame/QORInit.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include "planner/model/OutputRecord.h"
 #include "planner/model/PlanPublisher.h"
 
-#include "model/QORISPPActivityModificationEvents.h"
-#include "model/QORISPPActivityRoot.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
 
 #include <array>
 #include <unordered_set>

@@ -4,12 +4,12 @@
 #include "planner/model/Item.h"
 #include "planner/model/Kinds.h"
 
-#include "model/QORISPPAbstractActivity.h"
-#include "model/QORISPPActivity.h"
-#include "model/QORISPPChildManagement.h"
-#include "model/QORISPPFlowMgt.h"
-#include "model/QORISPPItemMgt.h"
-#include "model/QORISpecObject.h"
+#include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
+#include "VXMBomInfrastructure/model/QORISPPActivity.h"
+#include "VXMBomInfrastructure/model/QORISPPChildManagement.h"
+#include "VXMBomInfrastructure/model/QORISPPFlowMgt.h"
+#include "VXMBomInfrastructure/model/QORISPPItemMgt.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
 
 class QOREventSubscriber;
 

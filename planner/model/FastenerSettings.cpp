@@ -1,6 +1,6 @@
 #include "planner/model/FastenerSettings.h"
 
-#include "model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
 
 namespace planner {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORMetaClass.h"
-#include "settings/QORSettingStore.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/settings/QORSettingStore.h"
 
 #include <array>
 #include <string_view>

@@ -4,11 +4,11 @@
 #include "planner/model/Kinds.h"
 #include "planner/model/ModelObject.h"
 
-#include "model/QORIProduct.h"
-#include "model/QORISPPItem.h"
-#include "model/VXMIBIWFastener.h"
-#include "model/VXMIMfgAssembly.h"
-#include "visualization/QORI3DGeoVisu.h"
+#include "QORPlatform/visualization/QORI3DGeoVisu.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
+#include "VXMBomInfrastructure/model/VXMIBIWFastener.h"
+#include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
 
 namespace planner {
 

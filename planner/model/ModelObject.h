@@ -2,10 +2,10 @@
 
 #include "planner/model/OptionalList.h"
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "framework/QORObjectCounts.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 #include <cstdint>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "planner/model/ModelObject.h"
 
-#include "model/QORISPPProductIO.h"
+#include "VXMBomInfrastructure/model/QORISPPProductIO.h"
 
 namespace planner {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORObjectCounts.h"
-#include "notification/QOREventSubscriber.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
 #include <string_view>
 

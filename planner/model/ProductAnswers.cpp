@@ -1,6 +1,6 @@
 #include "planner/model/ProductAnswers.h"
 
-#include "framework/QORInterfaceID.h"
+#include "QORPlatform/framework/QORInterfaceID.h"
 
 namespace planner {
 

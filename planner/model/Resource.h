@@ -3,12 +3,12 @@
 #include "planner/model/Activity.h"
 #include "planner/model/FlowObject.h"
 
-#include "model/QORIProduct.h"
-#include "model/QORISpecObject.h"
-#include "model/VXMIResourceBehavior.h"
-#include "model/VXMIResourceBehaviorManager.h"
-#include "model/VXMIResourceFlowMgmt.h"
-#include "model/VXMIResourceItemMgmt.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehavior.h"
+#include "VXMBomInfrastructure/model/VXMIResourceBehaviorManager.h"
+#include "VXMBomInfrastructure/model/VXMIResourceFlowMgmt.h"
+#include "VXMBomInfrastructure/model/VXMIResourceItemMgmt.h"
 
 namespace planner {
 

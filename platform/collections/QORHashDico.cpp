@@ -1,4 +1,4 @@
-#include "collections/QORHashDico.h"
+#include "QORPlatform/collections/QORHashDico.h"
 
 QORHashDico::QORHashDico(int iSizeHint) {
     _entries.reserve(iSizeHint > 0 ? iSizeHint : 0);

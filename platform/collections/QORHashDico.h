@@ -1,6 +1,6 @@
 #pragma once
 
-#include "collections/QORTextIndex.h"
+#include "QORPlatform/collections/QORTextIndex.h"
 
 #include <vector>
 

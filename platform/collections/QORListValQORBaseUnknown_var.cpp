@@ -1,4 +1,4 @@
-#include "collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 
 #include <algorithm>
 

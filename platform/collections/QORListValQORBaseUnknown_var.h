@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORObjectCounts.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORVar.h"
 
 #include <string_view>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
 
 #include <algorithm>
 

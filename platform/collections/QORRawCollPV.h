@@ -1,6 +1,6 @@
 #pragma once
 
-#include "collections/QORRawColl.h"
+#include "QORPlatform/collections/QORRawColl.h"
 
 /// Array of plain pointers.
 using QORRawCollPV = QORRawColl<void*>;

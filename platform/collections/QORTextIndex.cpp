@@ -1,4 +1,4 @@
-#include "collections/QORTextIndex.h"
+#include "QORPlatform/collections/QORTextIndex.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,8 +1,8 @@
-#include "dialog/QORCommand.h"
+#include "QORPlatform/dialog/QORCommand.h"
 
-#include "dialog/QORDialogLoop.h"
-#include "dialog/QORDialogObserver.h"
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
+#include "QORPlatform/dialog/QORDialogObserver.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 #include <algorithm>
 #include <utility>

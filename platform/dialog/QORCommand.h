@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog/QORWatch.h"
-#include "notification/QOREventSubscriber.h"
-#include "text/QORString.h"
+#include "QORPlatform/dialog/QORWatch.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
+#include "QORPlatform/text/QORString.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
-#include "dialog/QORDialog.h"
+#include "QORPlatform/dialog/QORDialog.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 #include <algorithm>
 #include <utility>

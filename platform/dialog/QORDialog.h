@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/DRECT.h"
-#include "dialog/QORCommand.h"
+#include "QORPlatform/dialog/DRECT.h"
+#include "QORPlatform/dialog/QORCommand.h"
 
 /// A dialog object with a place on the screen, a parent and children. Children end with their parent, the last made
 /// first; who holds a reference of his own on a child keeps it, without a parent, until he lets go.

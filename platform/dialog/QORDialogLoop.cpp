@@ -1,6 +1,6 @@
-#include "dialog/QORDialogLoop.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
 
-#include "dialog/QORCommand.h"
+#include "QORPlatform/dialog/QORCommand.h"
 
 QORDialogLoop& QORDialogLoop::Get() {
     // Never destroyed: dialog objects sign off whenever they end.

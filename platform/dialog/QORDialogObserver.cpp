@@ -1,4 +1,4 @@
-#include "dialog/QORDialogObserver.h"
+#include "QORPlatform/dialog/QORDialogObserver.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
-#include "dialog/QORDlgDialog.h"
+#include "QORPlatform/dialog/QORDlgDialog.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

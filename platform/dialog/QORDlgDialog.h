@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/QORDlgWindow.h"
+#include "QORPlatform/dialog/QORDlgWindow.h"
 
 /// A window that a dialog is built in.
 class QOR_EXPORT QORDlgDialog : public QORDlgWindow {

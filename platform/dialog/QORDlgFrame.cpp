@@ -1,7 +1,7 @@
-#include "dialog/QORDlgFrame.h"
+#include "QORPlatform/dialog/QORDlgFrame.h"
 
-#include "dialog/QORDialogObserver.h"
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/dialog/QORDialogObserver.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/QORDialog.h"
+#include "QORPlatform/dialog/QORDialog.h"
 
 /// What a frame does with the room that it has.
 inline constexpr int kQORFramePlain = 0;

@@ -1,6 +1,6 @@
-#include "dialog/QORDlgWindow.h"
+#include "QORPlatform/dialog/QORDlgWindow.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/QORDialog.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/dialog/QORDialog.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// A dialog with a window of its own, which tells when its size changes.
 class QOR_EXPORT QORDlgWindow : public QORDialog {

@@ -1,6 +1,6 @@
-#include "dom/DOM_Document.h"
+#include "QORPlatform/dom/DOM_Document.h"
 
-#include "dom/QORDomState.h"
+#include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/dom/DOMElement.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dom/DOM_Element.h"
+#include "QORPlatform/dom/DOM_Element.h"
 
 /// Handle on a document. The document ends with the last handle on it or on any of its nodes.
 class QOR_EXPORT DOM_Document : public DOM_Node {

@@ -1,4 +1,4 @@
-#include "dom/DOM_Element.h"
+#include "QORPlatform/dom/DOM_Element.h"
 
 #include <xercesc/dom/DOMElement.hpp>
 

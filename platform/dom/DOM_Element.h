@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dom/DOM_Node.h"
+#include "QORPlatform/dom/DOM_Node.h"
 
 /// Handle on an element.
 class QOR_EXPORT DOM_Element : public DOM_Node {

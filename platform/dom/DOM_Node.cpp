@@ -1,6 +1,6 @@
-#include "dom/DOM_Node.h"
+#include "QORPlatform/dom/DOM_Node.h"
 
-#include "dom/QORDomState.h"
+#include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/dom/DOMNode.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dom/DOMString.h"
+#include "QORPlatform/dom/DOMString.h"
 
 #include <xercesc/util/XercesDefs.hpp>
 

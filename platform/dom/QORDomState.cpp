@@ -1,4 +1,4 @@
-#include "dom/QORDomState.h"
+#include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/dom/DOMImplementation.hpp>
 #include <xercesc/util/PlatformUtils.hpp>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/util/TransService.hpp>

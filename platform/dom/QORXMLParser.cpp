@@ -1,6 +1,6 @@
-#include "dom/QORXMLParser.h"
+#include "QORPlatform/dom/QORXMLParser.h"
 
-#include "dom/QORDomState.h"
+#include "QORPlatform/dom/QORDomState.h"
 
 void QORXMLParser::Initialize() {
     QORXmlRuntime::Get();

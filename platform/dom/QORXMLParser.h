@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/QORExport.h"
+#include "QORPlatform/text/QORExport.h"
 
 /// The platform's access to the XML library.
 class QOR_EXPORT QORXMLParser {

@@ -1,6 +1,6 @@
-#include "dom/XMLString.h"
+#include "QORPlatform/dom/XMLString.h"
 
-#include "dom/QORDomState.h"
+#include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/util/XMLString.hpp>
 

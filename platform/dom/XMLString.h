@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/QORExport.h"
+#include "QORPlatform/text/QORExport.h"
 
 /// Narrow text of wide text.
 class QOR_EXPORT XMLString {

@@ -1,6 +1,6 @@
-#include "frame/QORFrmEditor.h"
+#include "QORPlatform/frame/QORFrmEditor.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

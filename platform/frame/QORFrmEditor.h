@@ -1,9 +1,9 @@
 #pragma once
 
-#include "dialog/QORWatch.h"
-#include "framework/QORObjectCounts.h"
-#include "framework/QORVar.h"
-#include "visualization/QORXSO.h"
+#include "QORPlatform/dialog/QORWatch.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/visualization/QORXSO.h"
 
 /// What works on a document: has the document and the two selection sets of those who look at it. One editor at most is
 /// the current one. Windows and boxes that were made with an editor don't keep it, and may outlive it.

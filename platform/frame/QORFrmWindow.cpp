@@ -1,6 +1,6 @@
-#include "frame/QORFrmWindow.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialog/QORDlgDialog.h"
-#include "dialog/QORDlgFrame.h"
-#include "frame/QORFrmEditor.h"
-#include "frame/QORFrmWindowPeer.h"
-#include "text/QORUnicodeString.h"
-#include "visualization/QORViewer.h"
+#include "QORPlatform/dialog/QORDlgDialog.h"
+#include "QORPlatform/dialog/QORDlgFrame.h"
+#include "QORPlatform/frame/QORFrmEditor.h"
+#include "QORPlatform/text/QORUnicodeString.h"
+#include "QORPlatform/toolkit/QORFrmWindowPeer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 /// A window of the application's frame, with one frame for its content.
 ///

@@ -1,8 +1,8 @@
-#include "framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
 
-#include "framework/QORMetaClass.h"
-#include "framework/QORObjectCounts.h"
-#include "framework/QORObjectParts.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORObjectParts.h"
 
 namespace {
 

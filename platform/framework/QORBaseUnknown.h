@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORInterfaceID.h"
-#include "framework/QORStatus.h"
-#include "text/QORExport.h"
+#include "QORPlatform/framework/QORInterfaceID.h"
+#include "QORPlatform/framework/QORStatus.h"
+#include "QORPlatform/text/QORExport.h"
 
 class QORMetaClass;
 class QORObjectParts;

@@ -1,7 +1,7 @@
-#include "framework/QORComponents.h"
+#include "QORPlatform/framework/QORComponents.h"
 
-#include "framework/QORDictionary.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/framework/QORVar.h"
 
 QORStatus QORInstantiateComponent(const char* iName, const QORInterfaceID& iInterface, void** oInterface) {
     *oInterface = nullptr;

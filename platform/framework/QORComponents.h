@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORInterfaceID.h"
-#include "framework/QORStatus.h"
-#include "text/QORExport.h"
+#include "QORPlatform/framework/QORInterfaceID.h"
+#include "QORPlatform/framework/QORStatus.h"
+#include "QORPlatform/text/QORExport.h"
 
 /// Makes an object of the class that is registered as iName and casts it to iInterface. On success *oInterface holds
 /// the one reference, the caller's; with no such class, one that can't be created by name, or one that doesn't answer

@@ -4,7 +4,7 @@
 // call goes on a new segment: the contexts are switched, the call runs there to its end, and the segment goes back to a
 // small store. An exception is caught at the seam and raised again on the caller's side, since no unwinder crosses one.
 
-#include "framework/QORDeepStack.h"
+#include "QORPlatform/framework/QORDeepStack.h"
 
 #include <cstdint>
 #include <exception>

@@ -1,4 +1,4 @@
-#include "framework/QORDictionary.h"
+#include "QORPlatform/framework/QORDictionary.h"
 
 #include <algorithm>
 

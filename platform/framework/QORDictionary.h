@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 #include <map>
 #include <memory>

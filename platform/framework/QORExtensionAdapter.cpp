@@ -1,4 +1,4 @@
-#include "framework/QORExtensionAdapter.h"
+#include "QORPlatform/framework/QORExtensionAdapter.h"
 
 QORExtensionAdapter::QORExtensionAdapter() = default;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
 
 /// Base of extensions: objects that add interfaces to an object of another type. The extended object makes an extension
 /// when one of its interfaces is first asked for, keeps it and ends it; counting and identity are the extended

@@ -1,6 +1,6 @@
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
-#include "framework/QORDictionary.h"
+#include "QORPlatform/framework/QORDictionary.h"
 
 #include <cstring>
 

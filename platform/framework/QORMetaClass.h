@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORInterfaceID.h"
-#include "text/QORExport.h"
+#include "QORPlatform/framework/QORInterfaceID.h"
+#include "QORPlatform/text/QORExport.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
 
 /// Integer identity of a model object: one number per implementation, the same through whatever handle.
 class QORModelIdentificator {

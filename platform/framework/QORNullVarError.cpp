@@ -1,4 +1,4 @@
-#include "framework/QORNullVarError.h"
+#include "QORPlatform/framework/QORNullVarError.h"
 
 #include <string>
 

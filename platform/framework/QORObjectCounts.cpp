@@ -1,4 +1,4 @@
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "framework/QORObjectParts.h"
+#include "QORPlatform/framework/QORObjectParts.h"
 
-#include "framework/QORDictionary.h"
-#include "framework/QORExtensionAdapter.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/framework/QORExtensionAdapter.h"
 
 QORObjectParts::QORObjectParts(QORBaseUnknown& iObject) : _object(iObject) {}
 

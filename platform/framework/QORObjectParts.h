@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORInterfaceID.h"
+#include "QORPlatform/framework/QORInterfaceID.h"
 
 #include <memory>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "framework/QORProcessServices.h"
+#include "QORPlatform/framework/QORProcessServices.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/QORExport.h"
+#include "QORPlatform/text/QORExport.h"
 
 /// Value of an environment variable, null when it isn't set. The text is the environment's own.
 QOR_EXPORT const char* QORGetEnv(const char* iName);

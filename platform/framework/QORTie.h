@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
 
 /// Forwarder of one interface to one implementation, without behaviour of its own: it counts on the implementation,
 /// casts and identifies as it does, and lives no longer.

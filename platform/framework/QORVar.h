@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
-#include "framework/QORNullVarError.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORNullVarError.h"
 
 #include <concepts>
 #include <type_traits>

@@ -1,6 +1,6 @@
-#include "navigation/QORGraphViewer.h"
+#include "QORPlatform/navigation/QORGraphViewer.h"
 
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
 
 void QORGraphViewer::setAnchoredViewpoint(int iAnchored) {
     _anchored = iAnchored != 0;

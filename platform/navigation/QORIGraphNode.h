@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 /// Option of a node that is painted like any other.
 inline constexpr int kQORNodePlain = 0;

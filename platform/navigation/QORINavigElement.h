@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 class QORNavigController;
 class QORNavigInstance;

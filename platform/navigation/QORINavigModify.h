@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 class QORNavigInstance;
 

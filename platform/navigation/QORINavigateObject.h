@@ -1,9 +1,9 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORListValQORUnicodeString.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// Answered by what can be shown in a tree. The navigator asks for the label when it makes or updates a node, and for
 /// the children when a person opens it.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORListValQORUnicodeString.h"
-#include "framework/QORTie.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/framework/QORTie.h"
+#include "QORPlatform/framework/QORVar.h"
 
 /// The same for objects of products, processes and resources. The navigator asks it of those that don't answer
 /// QORINavigateObject.

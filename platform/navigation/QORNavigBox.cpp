@@ -1,10 +1,10 @@
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
 
-#include "framework/QORDictionary.h"
-#include "framework/QORMetaClass.h"
-#include "navigation/QORINavigElement.h"
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
 
 #include <utility>
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "dialog/QORDlgFrame.h"
-#include "frame/QORFrmEditor.h"
-#include "navigation/QORGraphViewer.h"
-#include "navigation/QORNavigBoxPeer.h"
-#include "navigation/QORNavigController.h"
-#include "navigation/QORNavigInstance.h"
-#include "visualization/QOR2DViewpoint.h"
-#include "visualization/QORViewer.h"
+#include "QORPlatform/dialog/QORDlgFrame.h"
+#include "QORPlatform/frame/QORFrmEditor.h"
+#include "QORPlatform/navigation/QORGraphViewer.h"
+#include "QORPlatform/navigation/QORNavigController.h"
+#include "QORPlatform/navigation/QORNavigInstance.h"
+#include "QORPlatform/toolkit/QORNavigBoxPeer.h"
+#include "QORPlatform/visualization/QOR2DViewpoint.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 #include <unordered_map>
 #include <unordered_set>

@@ -1,6 +1,6 @@
-#include "navigation/QORNavigController.h"
+#include "QORPlatform/navigation/QORNavigController.h"
 
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
 
 void QORNavigController::SetDepth(int iDepth) {
     _depth = iDepth;

@@ -2,12 +2,12 @@
 // holds itself meanwhile, makes what it makes aside, and looks whether it is still in a tree before it enters the
 // result.
 
-#include "navigation/QORNavigInstance.h"
+#include "QORPlatform/navigation/QORNavigInstance.h"
 
-#include "navigation/QORINavigModify.h"
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORINavigateObjectPPR.h"
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORINavigModify.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
 
 #include <algorithm>
 #include <iterator>

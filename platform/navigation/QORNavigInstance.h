@@ -1,8 +1,8 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "dialog/QORWatch.h"
-#include "navigation/QORNavigNode.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/dialog/QORWatch.h"
+#include "QORPlatform/navigation/QORNavigNode.h"
 
 #include <vector>
 

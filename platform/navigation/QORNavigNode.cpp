@@ -1,7 +1,7 @@
-#include "navigation/QORNavigNode.h"
+#include "QORPlatform/navigation/QORNavigNode.h"
 
-#include "framework/QORMetaClass.h"
-#include "navigation/QORNavigInstance.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/navigation/QORNavigInstance.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORObjectCounts.h"
-#include "navigation/QORIGraphNode.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/navigation/QORIGraphNode.h"
 
 class QORNavigInstance;
 

@@ -1,8 +1,8 @@
-#include "navigation/QORNodeExtension.h"
+#include "QORPlatform/navigation/QORNodeExtension.h"
 
-#include "navigation/QORIGraphNode.h"
-#include "navigation/QORNavigBox.h"
-#include "navigation/QORNavigNode.h"
+#include "QORPlatform/navigation/QORIGraphNode.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORNavigNode.h"
 
 QORNodeExtension::QORNodeExtension() = default;
 

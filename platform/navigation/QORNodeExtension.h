@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORExtensionAdapter.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/framework/QORExtensionAdapter.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 class QORNavigController;
 class QORNavigInstance;

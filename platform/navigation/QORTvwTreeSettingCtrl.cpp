@@ -1,8 +1,8 @@
-#include "navigation/QORTvwTreeSettingCtrl.h"
+#include "QORPlatform/navigation/QORTvwTreeSettingCtrl.h"
 
-#include "framework/QORComponents.h"
-#include "framework/QORMetaClass.h"
-#include "settings/QORSettingStore.h"
+#include "QORPlatform/framework/QORComponents.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/settings/QORSettingStore.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "navigation/QORITvwTreeSettingAtt.h"
+#include "QORPlatform/navigation/QORITvwTreeSettingAtt.h"
 
 /// The platform's component of the tree settings, "QORTvwTreeSettingCtrl". All its objects share the values, which last
 /// as long as the process.

@@ -1,10 +1,10 @@
 // Publishing goes over a snapshot of the subscriptions, each of which says whether it still holds. So nothing that a
 // subscriber does (unsubscribe, subscribe, publish, end itself, the publisher or another subscriber) reaches the loop.
 
-#include "notification/QOREventSubscriber.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
-#include "framework/QORMetaClass.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORVar.h"
 
 #include <exception>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "notification/QORNotification.h"
+#include "QORPlatform/notification/QORNotification.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
-#include "notification/QORNotification.h"
+#include "QORPlatform/notification/QORNotification.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

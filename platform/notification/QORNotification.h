@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 /// What is told when something happens. The class name says what kind of thing; derived classes add to it. Whoever made
 /// a notification releases it after publishing; subscribers look at it during the call only, or count on it.

@@ -1,6 +1,6 @@
-#include "notification/QORSPPActivityNotification.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

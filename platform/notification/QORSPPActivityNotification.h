@@ -1,6 +1,6 @@
 #pragma once
 
-#include "notification/QORNotification.h"
+#include "QORPlatform/notification/QORNotification.h"
 
 /// Tells of a change in a process plan. The kind is the plan's own number for what has changed.
 class QOR_EXPORT QORSPPActivityNotification : public QORNotification {

@@ -1,7 +1,7 @@
-#include "notification/QORSPPActivityNotificationDispatcher.h"
+#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
 
-#include "framework/QORVar.h"
-#include "notification/QORSPPActivityNotification.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
 
 const char* QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE() {
     return "DISPATCHER_SPP_VIEWS_CHANGE";

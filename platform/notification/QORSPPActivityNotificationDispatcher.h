@@ -1,6 +1,6 @@
 #pragma once
 
-#include "notification/QOREventSubscriber.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
 /// How changes of a process plan are told: as one event, of the publisher that the plan's root activity gives.
 class QOR_EXPORT QORSPPActivityNotificationDispatcher {

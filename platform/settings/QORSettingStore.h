@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORStatus.h"
-#include "text/QORExport.h"
+#include "QORPlatform/framework/QORStatus.h"
+#include "QORPlatform/text/QORExport.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,4 +1,4 @@
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 #include <charconv>
 #include <cstdio>

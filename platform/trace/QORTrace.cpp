@@ -1,6 +1,6 @@
-#include "trace/QORTrace.h"
+#include "QORPlatform/trace/QORTrace.h"
 
-#include "framework/QORProcessServices.h"
+#include "QORPlatform/framework/QORProcessServices.h"
 
 #include <algorithm>
 #include <string_view>

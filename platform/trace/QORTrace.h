@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/QORExport.h"
+#include "QORPlatform/text/QORExport.h"
 
 #include <cstdio>
 #include <string>

@@ -1,4 +1,4 @@
-#include "visualization/QOR2DPickViewpointEditor.h"
+#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
 
 QOR2DPickViewpointEditor::QOR2DPickViewpointEditor(const QORString& iName, QOR2DViewpoint* iViewpoint, int iMode)
     : QORViewpointEditor(iName, iViewpoint), _mode(iMode) {}

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "visualization/QOR2DViewpoint.h"
-#include "visualization/QORViewpointEditor.h"
+#include "QORPlatform/visualization/QOR2DViewpoint.h"
+#include "QORPlatform/visualization/QORViewpointEditor.h"
 
 /// How much one pick takes.
 inline constexpr int kQORPickOne = 0; ///< the object under the pointer

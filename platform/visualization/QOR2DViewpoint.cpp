@@ -1,6 +1,6 @@
-#include "visualization/QOR2DViewpoint.h"
+#include "QORPlatform/visualization/QOR2DViewpoint.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

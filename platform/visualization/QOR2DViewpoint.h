@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visualization/QORViewpoint.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 
 /// Looks at a plane, of a tree's graph say.
 class QOR_EXPORT QOR2DViewpoint : public QORViewpoint {

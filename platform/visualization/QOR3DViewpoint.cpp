@@ -1,6 +1,6 @@
-#include "visualization/QOR3DViewpoint.h"
+#include "QORPlatform/visualization/QOR3DViewpoint.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

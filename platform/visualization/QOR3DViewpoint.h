@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visualization/QORViewpoint.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 
 /// Looks at a scene in space.
 class QOR_EXPORT QOR3DViewpoint : public QORViewpoint {

@@ -1,6 +1,6 @@
-#include "visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORNavigation2DViewer.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 /// A viewer onto a plane. Has no viewpoint before one is added.
 class QOR_EXPORT QORNavigation2DViewer : public QORViewer {

@@ -1,6 +1,6 @@
-#include "visualization/QORNavigation3DViewer.h"
+#include "QORPlatform/visualization/QORNavigation3DViewer.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

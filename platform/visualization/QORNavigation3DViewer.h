@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 /// A viewer into space, with a main viewpoint from the beginning unless the toolkit can't show it.
 class QOR_EXPORT QORNavigation3DViewer : public QORViewer {

@@ -1,6 +1,6 @@
-#include "visualization/QORPathElement.h"
+#include "QORPlatform/visualization/QORPathElement.h"
 
-#include "framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
 

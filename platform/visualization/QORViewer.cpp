@@ -1,8 +1,8 @@
-#include "visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
-#include "framework/QORMetaClass.h"
-#include "visualization/QOR3DViewpoint.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/visualization/QOR3DViewpoint.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialog/QORDialog.h"
-#include "framework/QORVar.h"
-#include "visualization/QORIRedrawEvent.h"
-#include "visualization/QORViewerPeer.h"
-#include "visualization/QORViewpoint.h"
-#include "visualization/QORViewpointEditor.h"
+#include "QORPlatform/dialog/QORDialog.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/toolkit/QORViewerPeer.h"
+#include "QORPlatform/visualization/QORIRedrawEvent.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
+#include "QORPlatform/visualization/QORViewpointEditor.h"
 
 /// Style of a viewer: with the navigation by mouse (turn, move, zoom).
 inline constexpr int kQORViewerNavigated = 0x40000;

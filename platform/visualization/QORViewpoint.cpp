@@ -1,7 +1,7 @@
-#include "visualization/QORViewpoint.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 
-#include "framework/QORMetaClass.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/QORBaseUnknown.h"
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORBaseUnknown.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 class QORViewer;
 

@@ -1,3 +1,3 @@
-#include "visualization/QORViewpointEditor.h"
+#include "QORPlatform/visualization/QORViewpointEditor.h"
 
 QORViewpointEditor::~QORViewpointEditor() = default;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/QORObjectCounts.h"
-#include "framework/QORVar.h"
-#include "text/QORString.h"
-#include "visualization/QORViewpoint.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/text/QORString.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 
 /// What a person may do in a viewpoint. Counts on its viewpoint; the viewer keeps the editor.
 class QOR_EXPORT QORViewpointEditor : public QORBaseUnknown, private QORCounted<QORViewpointEditor> {

@@ -1,6 +1,6 @@
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
-#include "visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 #include <iterator>
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORRawColl.h"
-#include "visualization/QORViewpoint.h"
-#include "visualization/QORXSO.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORRawColl.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
+#include "QORPlatform/visualization/QORXSO.h"
 
 #include <list>
 #include <unordered_map>

@@ -1,7 +1,7 @@
-#include "visualization/QORXSO.h"
+#include "QORPlatform/visualization/QORXSO.h"
 
-#include "framework/QORMetaClass.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visualization/QORPathElement.h"
+#include "QORPlatform/visualization/QORPathElement.h"
 
 /// Set of selected objects, in the order in which they were added. What the visualization manager ties to viewpoints,
 /// which then show these objects marked. Objects go by their implementation; none is in the set twice.

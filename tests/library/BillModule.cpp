@@ -2,7 +2,7 @@
 
 #include "library/Bills.h"
 
-#include "navigation/VXMBomNavObject.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
 
 namespace {
 

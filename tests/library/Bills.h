@@ -3,8 +3,8 @@
 #include "support/BomText.h"
 #include "support/Drawing.h"
 
-#include "process/VXMProcessBomGenerator.h"
-#include "resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
+#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,11 @@
 
 #include "library/Bills.h"
 
-#include "framework/QORMetaClass.h"
-#include "framework/QORNullVarError.h"
-#include "generation/StrX.h"
-#include "generation/VXMHandleOrder.h"
-#include "model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORNullVarError.h"
+#include "VXMBomInfrastructure/generation/StrX.h"
+#include "VXMBomInfrastructure/generation/VXMHandleOrder.h"
+#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
 
 #include <array>
 

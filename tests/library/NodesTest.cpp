@@ -2,8 +2,8 @@
 
 #include "library/Bills.h"
 
-#include "nodes/VXMFabProcessFlowNode.h"
-#include "nodes/VXMFabResourceFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabResourceFlowNode.h"
 
 using namespace testmodel;
 

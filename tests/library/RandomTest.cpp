@@ -2,7 +2,7 @@
 
 #include "library/RandomWorld.h"
 
-#include "nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 
 #include <algorithm>
 #include <set>

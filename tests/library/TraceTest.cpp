@@ -2,7 +2,7 @@
 
 #include "library/Bills.h"
 
-#include "nodes/VXMFabProcessFlowNode.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 
 using namespace testmodel;
 

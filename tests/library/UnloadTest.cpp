@@ -1,9 +1,9 @@
 // The library comes into a process and leaves it again, as a host does that loads it on demand. This program isn't
 // linked with it; a small module is, which computes a bill.
 
-#include "framework/QORDictionary.h"
-#include "framework/QORObjectCounts.h"
-#include "trace/QORTrace.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/trace/QORTrace.h"
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>

@@ -4,10 +4,10 @@
 
 #include "planner/model/FastenerSettings.h"
 
-#include "framework/QORComponents.h"
-#include "framework/QORModelIdentificator.h"
-#include "model/QORISPPProductIO.h"
-#include "model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "QORPlatform/framework/QORComponents.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "VXMBomInfrastructure/model/QORISPPProductIO.h"
+#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
 
 #include <gtest/gtest.h>
 

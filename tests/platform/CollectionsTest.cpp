@@ -1,6 +1,6 @@
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "collections/QORListValQORUnicodeString.h"
-#include "collections/QORRawCollPV.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/collections/QORListValQORUnicodeString.h"
+#include "QORPlatform/collections/QORRawCollPV.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "framework/QORDeepStack.h"
+#include "QORPlatform/framework/QORDeepStack.h"
 
 #include <gtest/gtest.h>
 

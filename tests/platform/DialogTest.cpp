@@ -1,6 +1,6 @@
-#include "dialog/QORDialogLoop.h"
-#include "dialog/QORDlgDialog.h"
-#include "dialog/QORDlgFrame.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
+#include "QORPlatform/dialog/QORDlgDialog.h"
+#include "QORPlatform/dialog/QORDlgFrame.h"
 #include "support/RecordingToolkit.h"
 
 #include <gtest/gtest.h>

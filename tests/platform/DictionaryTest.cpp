@@ -1,9 +1,9 @@
 // Classes and bindings by name: late types, extensions, components, and what leaves again.
 
-#include "framework/QORComponents.h"
-#include "framework/QORDictionary.h"
-#include "framework/QORExtensionAdapter.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORComponents.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/framework/QORExtensionAdapter.h"
+#include "QORPlatform/framework/QORVar.h"
 
 #include "Speaker.h"
 

@@ -1,7 +1,7 @@
-#include "dom/DOM_Document.h"
-#include "dom/QORXMLParser.h"
-#include "dom/XMLString.h"
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/dom/DOM_Document.h"
+#include "QORPlatform/dom/QORXMLParser.h"
+#include "QORPlatform/dom/XMLString.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <gtest/gtest.h>
 

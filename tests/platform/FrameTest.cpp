@@ -1,7 +1,7 @@
-#include "dialog/QORDialogLoop.h"
-#include "frame/QORFrmWindow.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
+#include "QORPlatform/visualization/QORNavigation2DViewer.h"
 #include "support/RecordingToolkit.h"
-#include "visualization/QORNavigation2DViewer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Objects, counts, casts and handles without the dictionary.
 
-#include "framework/QORModelIdentificator.h"
-#include "framework/QORObjectCounts.h"
-#include "framework/QORProcessServices.h"
-#include "framework/QORVar.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORProcessServices.h"
+#include "QORPlatform/framework/QORVar.h"
 
 #include "Speaker.h"
 

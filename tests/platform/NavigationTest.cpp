@@ -1,11 +1,11 @@
-#include "framework/QORDictionary.h"
-#include "navigation/QORINavigElement.h"
-#include "navigation/QORINavigModify.h"
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORINavigateObjectPPR.h"
-#include "navigation/QORNodeExtension.h"
+#include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORINavigModify.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/navigation/QORNodeExtension.h"
+#include "QORPlatform/visualization/QORNavigation2DViewer.h"
 #include "support/RecordingToolkit.h"
-#include "visualization/QORNavigation2DViewer.h"
 
 #include <gtest/gtest.h>
 

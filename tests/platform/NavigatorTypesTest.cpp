@@ -1,10 +1,10 @@
 // What the navigator's component and interfaces answer apart from any tree.
 
-#include "framework/QORMetaClass.h"
-#include "framework/QORVar.h"
-#include "navigation/QORINavigElement.h"
-#include "navigation/QORNodeExtension.h"
-#include "navigation/QORTvwTreeSettingCtrl.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORVar.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORNodeExtension.h"
+#include "QORPlatform/navigation/QORTvwTreeSettingCtrl.h"
 
 #include <gtest/gtest.h>
 

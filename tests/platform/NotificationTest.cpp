@@ -1,4 +1,4 @@
-#include "notification/QOREventSubscriber.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "settings/QORSettingStore.h"
+#include "QORPlatform/settings/QORSettingStore.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/QORTie.h"
+#include "QORPlatform/framework/QORTie.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#include "text/QORString.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/text/QORString.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "trace/QORTrace.h"
+#include "QORPlatform/trace/QORTrace.h"
 
 #include <gtest/gtest.h>
 

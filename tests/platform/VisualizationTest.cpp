@@ -1,8 +1,8 @@
+#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
+#include "QORPlatform/visualization/QORI3DGeoVisu.h"
+#include "QORPlatform/visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORNavigation3DViewer.h"
 #include "support/RecordingToolkit.h"
-#include "visualization/QOR2DPickViewpointEditor.h"
-#include "visualization/QORI3DGeoVisu.h"
-#include "visualization/QORNavigation2DViewer.h"
-#include "visualization/QORNavigation3DViewer.h"
 
 #include <gtest/gtest.h>
 

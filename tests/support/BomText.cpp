@@ -1,8 +1,8 @@
 #include "support/BomText.h"
 
-#include "dom/DOM_Element.h"
-#include "generation/StrX.h"
-#include "trace/QORTrace.h"
+#include "QORPlatform/dom/DOM_Element.h"
+#include "QORPlatform/trace/QORTrace.h"
+#include "VXMBomInfrastructure/generation/StrX.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,8 +2,8 @@
 
 #include "support/TestModel.h"
 
-#include "dom/DOM_Document.h"
-#include "generation/VXMBomGenerator.h"
+#include "QORPlatform/dom/DOM_Document.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <string>
 

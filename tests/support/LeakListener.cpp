@@ -1,6 +1,6 @@
 // Main function of every test program: after each test the living objects of each class are as before it.
 
-#include "framework/QORObjectCounts.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialog/QORDialogObserver.h"
-#include "frame/QORFrmWindow.h"
-#include "framework/QORModelIdentificator.h"
-#include "navigation/QORNavigBox.h"
-#include "navigation/QORToolkit.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/dialog/QORDialogObserver.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
+#include "QORPlatform/toolkit/QORToolkit.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 #include <functional>
 #include <string>

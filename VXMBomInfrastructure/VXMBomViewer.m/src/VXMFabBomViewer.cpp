@@ -1,19 +1,19 @@
 // The window from its making to its end, and its title.
 
-#include "VXMBomViewer.m/src/VXMFabBomViewer.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
 
-#include "VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "framework/QORMetaClass.h"
-#include "framework/QORProcessServices.h"
-#include "model/QORIProduct.h"
-#include "navigation/QORINavigateObjectPPR.h"
-#include "navigation/QORNavigController.h"
-#include "navigation/VXMBomNavObject.h"
-#include "process/VXMProcessBomGenerator.h"
-#include "resource/VXMResourceBomGenerator.h"
-#include "visualization/QORNavigation2DViewer.h"
-#include "visualization/QORNavigation3DViewer.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/framework/QORProcessServices.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/navigation/QORNavigController.h"
+#include "QORPlatform/visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORNavigation3DViewer.h"
+#include "QORPlatform/visualization/QORVisManager.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
+#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "VXMExport.h"
-#include "collections/QORListValQORBaseUnknown_var.h"
-#include "frame/QORFrmWindow.h"
-#include "model/QORISPPActivity.h"
-#include "text/QORUnicodeString.h"
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
+#include "QORPlatform/text/QORUnicodeString.h"
+#include "VXMBomInfrastructure/VXMExport.h"
+#include "VXMBomInfrastructure/model/QORISPPActivity.h"
 
 #include <memory>
 

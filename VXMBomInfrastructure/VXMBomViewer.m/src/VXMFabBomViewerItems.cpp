@@ -1,13 +1,13 @@
 // The items of the BOM in the view in space. What is shown is the generator's whole list of objects, whatever is chosen
 // in the tree.
 
-#include "VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "generation/VXMBomGenerator.h"
-#include "model/QORISPPItem.h"
-#include "visualization/QORI3DGeoVisu.h"
-#include "visualization/QORPathElement.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/visualization/QORI3DGeoVisu.h"
+#include "QORPlatform/visualization/QORPathElement.h"
+#include "QORPlatform/visualization/QORVisManager.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/model/QORISPPItem.h"
 
 /// Calls iAct(path, interfaces) for each object that is an item and can be seen, as a path of one.
 template <class Act>

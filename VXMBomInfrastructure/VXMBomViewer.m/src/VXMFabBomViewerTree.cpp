@@ -1,13 +1,13 @@
 // The tree box of the window.
 
-#include "VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "generation/VXMBomGenerator.h"
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORNavigBox.h"
-#include "navigation/QORTvwTreeSettingCtrl.h"
-#include "visualization/QOR2DPickViewpointEditor.h"
-#include "visualization/QOR2DViewpoint.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
+#include "QORPlatform/navigation/QORTvwTreeSettingCtrl.h"
+#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
+#include "QORPlatform/visualization/QOR2DViewpoint.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 namespace {
 

@@ -1,20 +1,20 @@
 // How the window follows the plan: it subscribes to the changes of the document's root activity, builds its BOM anew
 // when a change concerns it, and compares the objects shown with those of the BOM after every change.
 
-#include "VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "frame/QORInit.h"
-#include "generation/VXMBomGenerator.h"
-#include "model/QORISPPActivityModificationEvents.h"
-#include "model/QORISPPActivityRoot.h"
-#include "model/QORISPPControlFlow.h"
-#include "model/QORISPPProcessContainer.h"
-#include "model/QORISpecObject.h"
-#include "navigation/QORNavigBox.h"
-#include "navigation/VXMBomNavObject.h"
-#include "notification/QORSPPActivityNotification.h"
-#include "notification/QORSPPActivityNotificationDispatcher.h"
-#include "visualization/QORIRedrawEvent.h"
+#include "QORPlatform/frame/QORInit.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
+#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
+#include "QORPlatform/visualization/QORIRedrawEvent.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
+#include "VXMBomInfrastructure/model/QORISPPControlFlow.h"
+#include "VXMBomInfrastructure/model/QORISPPProcessContainer.h"
+#include "VXMBomInfrastructure/model/QORISpecObject.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 
 #include <exception>
 

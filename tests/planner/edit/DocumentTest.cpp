@@ -3,12 +3,12 @@
 #include "planner/PlanText.h"
 #include "planner/edit/EditSession.h"
 
-#include "frame/QORInit.h"
-#include "model/QORISPPActivityModificationEvents.h"
-#include "model/QORISPPActivityRoot.h"
-#include "model/QORISPPProcessContainer.h"
+#include "QORPlatform/frame/QORInit.h"
+#include "QORPlatform/visualization/QORI3DGeoVisu.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
+#include "VXMBomInfrastructure/model/QORISPPProcessContainer.h"
 #include "planner/file/PlanReader.h"
-#include "visualization/QORI3DGeoVisu.h"
 
 #include <gtest/gtest.h>
 

@@ -3,10 +3,10 @@
 #include "planner/PlanText.h"
 #include "support/BomText.h"
 
-#include "notification/QORSPPActivityNotification.h"
-#include "notification/QORSPPActivityNotificationDispatcher.h"
-#include "process/VXMProcessBomGenerator.h"
-#include "resource/VXMResourceBomGenerator.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
+#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
+#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "planner/edit/PlanEditor.h"
 
-#include "notification/QOREventSubscriber.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
 #include <functional>
 #include <string>

@@ -5,8 +5,8 @@
 #include "planner/edit/EditSession.h"
 #include "support/BomText.h"
 
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 #include "planner/model/Contents.h"
-#include "process/VXMProcessBomGenerator.h"
 
 #include <gtest/gtest.h>
 

@@ -3,17 +3,17 @@
 #include "planner/edit/WindowDesk.h"
 #include "support/BomText.h"
 
-#include "framework/QORMetaClass.h"
-#include "model/QORISPPControlFlow.h"
-#include "navigation/QORINavigElement.h"
-#include "navigation/QORINavigModify.h"
-#include "navigation/QORINavigateObject.h"
-#include "navigation/QORINavigateObjectModify.h"
-#include "navigation/QORINavigateObjectPPR.h"
-#include "navigation/VXMBomNavObject.h"
-#include "navigation/VXMPFNavigModifyMBOMObject.h"
-#include "process/VXMProcessBomGenerator.h"
-#include "visualization/QORPathElement.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORINavigModify.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectModify.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/visualization/QORPathElement.h"
+#include "VXMBomInfrastructure/model/QORISPPControlFlow.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
+#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObject.h"
+#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 
 #include <gtest/gtest.h>
 

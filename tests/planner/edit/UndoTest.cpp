@@ -2,7 +2,7 @@
 
 #include "planner/edit/EditSession.h"
 
-#include "framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORModelIdentificator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "planner/edit/WindowDesk.h"
 
-#include "dialog/QORDialogLoop.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 namespace editing {
 

@@ -2,9 +2,9 @@
 
 #include "planner/edit/EditSession.h"
 
-#include "VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "frame/QORFrmEditor.h"
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/frame/QORFrmEditor.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
 
 #include <memory>
 #include <string>

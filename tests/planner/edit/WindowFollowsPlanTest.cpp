@@ -4,9 +4,9 @@
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
-#include "navigation/QORINavigateObject.h"
-#include "notification/QORSPPActivityNotification.h"
-#include "visualization/QORVisManager.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
+#include "QORPlatform/visualization/QORVisManager.h"
 
 #include <gtest/gtest.h>
 

@@ -6,15 +6,15 @@
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
-#include "dialog/QORDialogLoop.h"
-#include "frame/QORInit.h"
-#include "framework/QORMetaClass.h"
-#include "model/QORISPPActivityModificationEvents.h"
-#include "model/QORISPPActivityRoot.h"
-#include "model/QORISPPProcessContainer.h"
-#include "navigation/QORTvwTreeSettingCtrl.h"
-#include "notification/QORSPPActivityNotificationDispatcher.h"
-#include "visualization/QOR2DPickViewpointEditor.h"
+#include "QORPlatform/dialog/QORDialogLoop.h"
+#include "QORPlatform/frame/QORInit.h"
+#include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/navigation/QORTvwTreeSettingCtrl.h"
+#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
+#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
+#include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
+#include "VXMBomInfrastructure/model/QORISPPProcessContainer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/QORFrmWindowPeer.h"
-#include "navigation/QORNavigBoxPeer.h"
-#include "text/QORExport.h"
-#include "visualization/QORViewerPeer.h"
+#include "QORPlatform/text/QORExport.h"
+#include "QORPlatform/toolkit/QORFrmWindowPeer.h"
+#include "QORPlatform/toolkit/QORNavigBoxPeer.h"
+#include "QORPlatform/toolkit/QORViewerPeer.h"
 
 /// All that the platform wants from a toolkit: a peer for each thing that a person sees.
 class QORToolkit : public QORFrmWindowToolkit, public QORViewerToolkit, public QORNavigBoxToolkit {};

@@ -1,7 +1,7 @@
-#include "navigation/QORToolkit.h"
+#include "QORPlatform/toolkit/QORToolkit.h"
 
-#include "frame/QORFrmWindow.h"
-#include "navigation/QORNavigBox.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
+#include "QORPlatform/navigation/QORNavigBox.h"
 
 void QORSetToolkit(QORToolkit* iToolkit) {
     QORFrmWindow::SetToolkit(iToolkit);
