@@ -9,7 +9,7 @@
 #include "QORPlatform/framework/QORModelIdentificator.h"
 #include "QORPlatform/framework/QORProcessServices.h"
 #include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
-#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 #include "VXMBomInfrastructure/nodes/VXMFlowEnds.h"
 #include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
@@ -17,19 +17,8 @@
 
 namespace {
 
-using ReadSetting = QORStatus (VXMIMVWMBOMViewerSettingAtt::*)(int& oValue);
-
-/// Reading operations of the fastener types, in the order of their bits.
-constexpr std::array<ReadSetting, 12> kFastenerSettings{
-    &VXMIMVWMBOMViewerSettingAtt::GetShowAdhesiveCurve, &VXMIMVWMBOMViewerSettingAtt::GetShowAdhesivePoint,
-    &VXMIMVWMBOMViewerSettingAtt::GetShowArcWeld,       &VXMIMVWMBOMViewerSettingAtt::GetShowClinch,
-    &VXMIMVWMBOMViewerSettingAtt::GetShowGlueBead,      &VXMIMVWMBOMViewerSettingAtt::GetShowGlueDrop,
-    &VXMIMVWMBOMViewerSettingAtt::GetShowRivet,         &VXMIMVWMBOMViewerSettingAtt::GetShowSealantCurve,
-    &VXMIMVWMBOMViewerSettingAtt::GetShowSealantPoint,  &VXMIMVWMBOMViewerSettingAtt::GetShowScrew,
-    &VXMIMVWMBOMViewerSettingAtt::GetShowSpotWeld,      &VXMIMVWMBOMViewerSettingAtt::GetShowStud};
-
 /// Only 1 means on; a setting that can't be read is on.
-bool IsOn(const VXMIMVWMBOMViewerSettingAtt_var& iSettings, ReadSetting iRead) {
+bool IsOn(const VXMIMVWMBOMViewerSettingAtt_var& iSettings, decltype(VXMFastenerType::GetShow) iRead) {
     int value = 1;
     if (iSettings) {
         ((*iSettings.Get()).*iRead)(value);
@@ -104,8 +93,8 @@ void VXMBomGenerator::ReadSettings() {
     QORInstantiateComponent("VXMMVWMBOMViewerSettingCtrl", IID_VXMIMVWMBOMViewerSettingAtt, &found);
     const auto settings = VXMIMVWMBOMViewerSettingAtt_var::Adopt(static_cast<VXMIMVWMBOMViewerSettingAtt*>(found));
     int bit = 1;
-    for (const ReadSetting read : kFastenerSettings) {
-        _fastenersShowMode += IsOn(settings, read) ? bit : 0;
+    for (const VXMFastenerType& type : VXMFastenerTypes) {
+        _fastenersShowMode += IsOn(settings, type.GetShow) ? bit : 0;
         bit <<= 1;
     }
     _assignedFastenersShowMode = IsOn(settings, &VXMIMVWMBOMViewerSettingAtt::GetShowAssignedFastenersOnly) ? 1 : 0;

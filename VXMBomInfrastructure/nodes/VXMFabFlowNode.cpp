@@ -5,16 +5,21 @@
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
 #include "VXMBomInfrastructure/model/VXMIBIWFastener.h"
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 #include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
 
 const VXMFabFlowNode::FastenerTypeNames& FastenerTypeTable() {
-    static const VXMFabFlowNode::FastenerTypeNames names{
-        "Adhesive Curve", "Adhesive Point", "Arc Weld",      "Clinch", "Glue Bead", "Glue Drop",
-        "Rivet",          "Sealant Curve",  "Sealant Point", "Screw",  "Spot Weld", "Stud"};
+    static const VXMFabFlowNode::FastenerTypeNames names = [] {
+        VXMFabFlowNode::FastenerTypeNames result;
+        std::transform(VXMFastenerTypes.begin(), VXMFastenerTypes.end(), result.begin(),
+                       [](const VXMFastenerType& iType) { return QORUnicodeString(iType.name); });
+        return result;
+    }();
     return names;
 }
 

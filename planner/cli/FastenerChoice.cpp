@@ -3,6 +3,8 @@
 #include "planner/file/JsonText.h"
 #include "planner/model/FastenerSettings.h"
 
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
+
 #include <algorithm>
 #include <bitset>
 
@@ -10,7 +12,7 @@ namespace planner {
 
 namespace {
 
-using Shown = std::bitset<kFastenerTypes.size()>;
+using Shown = std::bitset<VXMFastenerTypes.size()>;
 
 /// Letters only, all of them small: "Spot Weld" and "spot-weld" are one name.
 std::string plainName(std::string_view name) {
@@ -27,19 +29,20 @@ std::string plainName(std::string_view name) {
 
 std::string typeNames() {
     std::string names;
-    for (const FastenerType& type : kFastenerTypes) {
+    for (const VXMFastenerType& type : VXMFastenerTypes) {
         names += (names.empty() ? "" : ", ") + std::string(type.name);
     }
     return names;
 }
 
 std::optional<std::string> addNamed(std::string_view name, Shown& shown) {
-    const auto type = std::find_if(kFastenerTypes.begin(), kFastenerTypes.end(),
-                                   [&](const FastenerType& each) { return plainName(each.name) == plainName(name); });
-    if (type == kFastenerTypes.end()) {
+    const auto type = std::find_if(VXMFastenerTypes.begin(), VXMFastenerTypes.end(), [&](const VXMFastenerType& each) {
+        return plainName(each.name) == plainName(name);
+    });
+    if (type == VXMFastenerTypes.end()) {
         return "--fasteners names " + inQuotes(name) + "; expected all, none, or some of " + typeNames();
     }
-    shown.set(static_cast<std::size_t>(type - kFastenerTypes.begin()));
+    shown.set(static_cast<std::size_t>(type - VXMFastenerTypes.begin()));
     return std::nullopt;
 }
 
@@ -70,10 +73,10 @@ std::optional<std::string> setFasteners(const std::string& choice, bool unassign
     if (auto error = parseChoice(choice, shown)) {
         return error;
     }
-    for (std::size_t i = 0; i < kFastenerTypes.size(); ++i) {
-        FastenerSettings::store().Set(kFastenerTypes[i].setting, shown[i] ? 1 : 0);
+    for (std::size_t i = 0; i < VXMFastenerTypes.size(); ++i) {
+        FastenerSettings::store().Set(VXMFastenerTypes[i].setting, shown[i] ? 1 : 0);
     }
-    FastenerSettings::store().Set(kAssignedOnlySetting, unassignedAsWell ? 0 : 1);
+    FastenerSettings::store().Set(VXMAssignedFastenersOnlySetting, unassignedAsWell ? 0 : 1);
     return std::nullopt;
 }
 

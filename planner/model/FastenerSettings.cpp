@@ -1,6 +1,6 @@
 #include "planner/model/FastenerSettings.h"
 
-#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 
 namespace planner {
 
@@ -29,12 +29,12 @@ public:
     QORStatus GetShowSpotWeld(int& oValue) const { return read(10, oValue); }
     QORStatus GetShowStud(int& oValue) const { return read(11, oValue); }
     QORStatus GetShowAssignedFastenersOnly(int& oValue) const {
-        return FastenerSettings::store().Get(kAssignedOnlySetting, oValue);
+        return FastenerSettings::store().Get(VXMAssignedFastenersOnlySetting, oValue);
     }
 
 private:
     static QORStatus read(std::size_t type, int& oValue) {
-        return FastenerSettings::store().Get(kFastenerTypes[type].setting, oValue);
+        return FastenerSettings::store().Get(VXMFastenerTypes[type].setting, oValue);
     }
 
     VXMIMVWMBOMViewerSettingAttTie<SettingControl> settings_{this};

@@ -7,7 +7,7 @@
 #include "QORPlatform/framework/QORComponents.h"
 #include "QORPlatform/framework/QORModelIdentificator.h"
 #include "VXMBomInfrastructure/model/QORISPPProductIO.h"
-#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 
 #include <gtest/gtest.h>
 
@@ -242,7 +242,7 @@ TEST(Settings, AnswerFromTheStoreAndLeaveAloneWhatWasNeverSet) {
         EXPECT_LT(settings->GetShowStud(value), 0);
         EXPECT_EQ(value, 7);
         planner::FastenerSettings::store().Set("ShowStud", 2);
-        planner::FastenerSettings::store().Set(planner::kAssignedOnlySetting, 0);
+        planner::FastenerSettings::store().Set(VXMAssignedFastenersOnlySetting, 0);
         EXPECT_EQ(settings->GetShowStud(value), QOR_OK);
         EXPECT_EQ(value, 2);
         EXPECT_EQ(settings->GetShowAssignedFastenersOnly(value), QOR_OK);
