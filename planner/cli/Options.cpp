@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 namespace planner {
 
@@ -15,13 +15,6 @@ std::string complaintOnName(const std::string& name) {
 }
 
 constexpr const char* kPlanHelp = "Plan file, - for standard input";
-
-struct NamedFormat {
-    const char* name;
-    Format format;
-};
-constexpr std::array<NamedFormat, 4> kFormats{
-    {{"tree", Format::Tree}, {"xml", Format::Xml}, {"json", Format::Json}, {"csv", Format::Csv}}};
 
 Format formatOf(const std::string& name) {
     for (const NamedFormat& each : kFormats) {

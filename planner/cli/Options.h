@@ -1,12 +1,11 @@
 #pragma once
 
+#include "planner/bill/BillFormats.h"
+
 #include <optional>
 #include <string>
 
 namespace planner {
-
-/// The format in which a bill is printed.
-enum class Format { Tree, Xml, Json, Csv };
 
 /// What `planner bom` is asked to do.
 struct BomOptions {

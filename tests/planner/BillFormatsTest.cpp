@@ -2,7 +2,7 @@
 
 #include "PlanText.h"
 
-#include "planner/cli/BillFormats.h"
+#include "planner/bill/BillFormats.h"
 
 #include <gtest/gtest.h>
 

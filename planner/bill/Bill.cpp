@@ -1,4 +1,4 @@
-#include "planner/cli/Bill.h"
+#include "planner/bill/Bill.h"
 
 #include "QORPlatform/dom/XMLString.h"
 

@@ -1,7 +1,7 @@
 // The bill is gathered from the end of the flow backwards along its links. A step that is not reached that way adds
 // nothing, whatever it lists; of a step that is reached, its place and the sort of its lists decide.
 
-#include "planner/cli/BillRemarks.h"
+#include "planner/bill/BillRemarks.h"
 
 #include "planner/file/JsonText.h"
 

@@ -1,7 +1,7 @@
 // The elements of a bill come one behind the other with their levels; what a format has to close between two of them
 // follows from the levels alone, so no depth costs more than another.
 
-#include "planner/cli/BillFormats.h"
+#include "planner/bill/BillFormats.h"
 
 #include "planner/file/JsonText.h"
 #include "planner/model/Item.h"
