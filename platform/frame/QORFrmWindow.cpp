@@ -1,5 +1,6 @@
 #include "QORPlatform/frame/QORFrmWindow.h"
 
+#include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/framework/QORMetaClass.h"
 
 namespace {
@@ -60,5 +61,71 @@ void QORFrmWindow::SetBaseName(const QORUnicodeString& iTitle) {
 void QORFrmWindow::LayoutChanged() {
     if (_peer) {
         _peer->LayoutChanged();
+    }
+}
+
+void QORFrmWindow::Complete() {
+    if (std::exchange(_isComplete, true)) {
+        return;
+    }
+    if (_peer) {
+        _peer->Completed();
+    }
+    if (_isToBeShown) {
+        TellShown();
+    }
+}
+
+void QORFrmWindow::SetShown(bool iShown) {
+    if (std::exchange(_isToBeShown, iShown) != iShown && _isComplete) {
+        TellShown();
+    }
+}
+
+void QORFrmWindow::TellShown() {
+    if (!_peer) {
+        return;
+    }
+    if (_isToBeShown) {
+        _peer->Shown();
+    } else {
+        _peer->Hidden();
+    }
+}
+
+void QORFrmWindow::Raise() {
+    if (!_isComplete || IsClosed()) {
+        return;
+    }
+    SetShown(true);
+    if (_peer) {
+        _peer->Raised();
+    }
+    ReportActivate();
+}
+
+void QORFrmWindow::ReportActivate() {
+    if (GetEditor()) {
+        QORFrmEditor::SetCurrentEditor(GetEditor());
+    }
+}
+
+bool QORFrmWindow::ReportClose() {
+    // Whoever is asked may run an event loop: the window stays until this call is over.
+    const QORVar<QORFrmWindow> self(this);
+    const QORHandling handling(this);
+    if (const auto guard = _closeGuard; !IsClosed() && guard && !guard(*this)) {
+        return false;
+    }
+    _isClosed = true;
+    RequestDelayedDestruction();
+    return true;
+}
+
+void QORFrmWindow::LeaveParent() {
+    QORDlgDialog::LeaveParent();
+    _isClosed = true;
+    if (_peer && GetReferenceCount() > 1) {
+        _peer->FrameEnded();
     }
 }

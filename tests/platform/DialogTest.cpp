@@ -1,6 +1,7 @@
 #include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/dialog/QORDlgDialog.h"
 #include "QORPlatform/dialog/QORDlgFrame.h"
+#include "QORPlatform/toolkit/QORLoopPeer.h"
 #include "support/RecordingToolkit.h"
 
 #include <gtest/gtest.h>
@@ -102,6 +103,48 @@ private:
 TEST_F(Dialogs, RequestedWhileTheLoopRunsMayEndInANestedRun) {
     (new Follower(window_, a_))->RequestDelayedDestruction();
     EXPECT_EQ(runLoop(), "end of A requested | ended A | ended follower");
+}
+
+TEST_F(Dialogs, AreNotEndedWhileAHandlerIsOnTheStack) {
+    {
+        const QORHandling menuOfA(a_);
+        b_->RequestDelayedDestruction();
+        EXPECT_EQ(runLoop(), "") << "the handler may go on to use what it asked to end";
+        {
+            const QORHandling dragOfNobody(nullptr);
+            frame_->RequestDelayedDestruction();
+            a_->RequestDelayedDestruction();
+        }
+        EXPECT_EQ(runLoop(), "") << "A is being handled, and stands in the frame";
+    }
+    EXPECT_EQ(runLoop(), "ended B | ended A | ended F");
+    auto* const late = new QORDlgFrame(window_, "late");
+    const QORHandling handling(window_);
+    {
+        const QORHandling closing(nullptr);
+        late->RequestDelayedDestruction();
+    }
+    EXPECT_EQ(runLoop(), "ended late") << "whoever asked for it has returned";
+}
+
+/// Counts how often the host's loop is woken.
+class HostLoop : public QORLoopPeer {
+public:
+    HostLoop() { QORDialogLoop::Get().SetPeer(this); }
+    ~HostLoop() override { QORDialogLoop::Get().SetPeer(nullptr); }
+    void WorkWaits() override { ++woken_; }
+
+    int woken_ = 0;
+};
+
+TEST_F(Dialogs, WakeTheHostsLoopOnceForAllThatWaits) {
+    const HostLoop host;
+    a_->RequestDelayedDestruction();
+    b_->RequestDelayedDestruction();
+    EXPECT_EQ(host.woken_, 1);
+    runLoop();
+    frame_->RequestDelayedDestruction();
+    EXPECT_EQ(host.woken_, 2);
 }
 
 /// A dialog that notes the sizes that another one tells.

@@ -74,10 +74,52 @@ TEST_F(FrameWindow, LivesOnAfterACloseAsLongAsItIsHeldAndEndsItsChildrenBeforeIt
     log_.take();
     const recording::DialogSteps steps(log_);
     QORDialogLoop::Get().Run();
-    EXPECT_EQ(log_.take(), "detached V from ViewerFrame | layout | layout | viewer gone | ended V");
+    EXPECT_EQ(log_.take(), "detached V from ViewerFrame | layout | layout | viewer gone | ended V | frame ended");
     EXPECT_STREQ(window_->GetBaseName(), "plan");
     window_ = nullptr;
     EXPECT_EQ(log_.take(), "layout | ended ViewerFrame | window gone | ended plan");
+}
+
+TEST_F(FrameWindow, IsShownFromItsCompletionOnUnlessItWasHidden) {
+    window_->Raise();
+    window_->SetShown(false);
+    window_->Complete();
+    EXPECT_EQ(log_.take(), "complete");
+    EXPECT_FALSE(window_->IsShown());
+    window_->Raise();
+    window_->Complete();
+    window_->SetShown(true);
+    EXPECT_EQ(log_.take(), "shown | raised");
+    EXPECT_TRUE(window_->IsShown());
+    window_->SetShown(false);
+    EXPECT_EQ(log_.take(), "hidden");
+}
+
+TEST_F(FrameWindow, MakesItsEditorTheCurrentOneWhenAPersonActivatesIt) {
+    const auto other = QORVar<QORFrmWindow>::Adopt(new QORFrmWindow("other", nullptr));
+    window_->ReportActivate();
+    other->ReportActivate();
+    EXPECT_EQ(QORFrmEditor::GetCurrentEditor(), editor_.get()) << "one without an editor changes nothing";
+}
+
+TEST_F(FrameWindow, StaysWhereItsCloseIsRefused) {
+    bool refuses = true;
+    window_->AddRef();
+    window_->SetCloseGuard([&](QORFrmWindow&) {
+        QORDialogLoop::Get().Run();
+        return !refuses;
+    });
+    EXPECT_FALSE(window_->ReportClose());
+    EXPECT_FALSE(window_->IsClosed());
+    QORDialogLoop::Get().Run();
+    refuses = false;
+    EXPECT_TRUE(window_->ReportClose());
+    EXPECT_TRUE(window_->IsClosed());
+    EXPECT_TRUE(window_->ReportClose()) << "isn't asked again";
+    log_.take();
+    QORDialogLoop::Get().Run();
+    EXPECT_EQ(log_.take(), "frame ended");
+    EXPECT_TRUE(window_->IsClosed());
 }
 
 } // namespace

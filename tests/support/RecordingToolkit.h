@@ -94,6 +94,11 @@ public:
     void TitleChanged() override { log_.add("title " + std::string(window_.GetBaseName())); }
     void LayoutChanged() override { log_.add("layout"); }
     void SelectableViewerChanged() override { log_.add("selectable " + nameOf(window_.GetSelectableViewer())); }
+    void Completed() override { log_.add("complete"); }
+    void Shown() override { log_.add("shown"); }
+    void Hidden() override { log_.add("hidden"); }
+    void Raised() override { log_.add("raised"); }
+    void FrameEnded() override { log_.add("frame ended"); }
 
 private:
     Log& log_;

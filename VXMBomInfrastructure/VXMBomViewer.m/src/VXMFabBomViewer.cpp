@@ -72,6 +72,7 @@ VXMFabBomViewer::VXMFabBomViewer(const QORString& iName, QORFrmEditor* iEditor, 
     _windowFrame->Attach4Sides(_viewer);
     AddAnalyseNotificationCB(this, GetWindSizeNotification(), &VXMFabBomViewer::OnResize, nullptr);
     AddCallBacks();
+    Complete();
 }
 
 VXMFabBomViewer::~VXMFabBomViewer() {

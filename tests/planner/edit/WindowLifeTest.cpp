@@ -143,6 +143,8 @@ T roots 1
   <-- VXMFabBomViewer::GetRootActivity
   subscribed 1
   <-- VXMFabBomViewer::AddCallBacks
+  complete
+  shown
   <-- VXMFabBomViewer::Constructor
   --> VXMFabBomViewer::OnActivityCallback
   --> VXMFabBomViewer::UpdateBom
