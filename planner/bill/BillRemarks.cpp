@@ -4,12 +4,12 @@
 #include "planner/bill/BillRemarks.h"
 
 #include "planner/file/JsonText.h"
+#include "planner/model/Contents.h"
 
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 #include <algorithm>
 #include <iterator>
-#include <unordered_map>
 #include <unordered_set>
 
 namespace planner {
@@ -18,27 +18,13 @@ namespace {
 
 constexpr std::size_t kNamed = 3;
 
-template <class List>
-void push(const List& list, std::vector<const ModelObject*>& open) {
-    open.insert(open.end(), list.entries().rbegin(), list.entries().rend());
-}
-
-/// Puts what is nested in an object on the stack, the first one on top. A behaviour stands for its resource.
-void pushNested(const ModelObject& object, std::vector<const ModelObject*>& open) {
-    if (object.sort() == Sort::Activity) {
-        push(static_cast<const Activity&>(object).children, open);
-    } else if (object.sort() == Sort::Resource) {
-        const auto& resource = static_cast<const Resource&>(object);
-        push(resource.children, open);
-        if (resource.behaviour()) {
-            push(resource.behaviour()->activities, open);
-        }
-    }
-}
-
 bool isStep(const ModelObject& object) {
     return object.sort() == Sort::Resource ||
            (object.sort() == Sort::Activity && static_cast<const Activity&>(object).isStep());
+}
+
+VXMFabFlowNode* nodeOf(VXMBomGenerator& generator, const ModelObject& step) {
+    return generator.CheckUse(QORBaseUnknown_var(const_cast<ModelObject*>(&step)));
 }
 
 /// The objects from which links lead to the end of the flow.
@@ -52,8 +38,7 @@ std::unordered_set<const QORBaseUnknown*> reachedBy(VXMBomGenerator& generator, 
             open.push_back(node);
         }
     };
-    const QORBaseUnknown_var handle(const_cast<ModelObject*>(&root));
-    visit(generator.GetLastNodeInFlow(generator.CheckUse(handle)));
+    visit(generator.GetLastNodeInFlow(nodeOf(generator, root)));
     while (!open.empty()) {
         VXMFabFlowNode* const node = open.back();
         open.pop_back();
@@ -68,31 +53,8 @@ std::unordered_set<const QORBaseUnknown*> reachedBy(VXMBomGenerator& generator, 
 struct Offer {
     bool anything = false;      ///< any item is listed
     bool brings = false;        ///< an item comes in or is put out where that counts
-    bool shutInStation = false; ///< the same, but inside a station and not first assigned by a loading step
+    bool shutInStation = false; ///< the same where it doesn't count: inside a station
     bool fasteners = false;     ///< a fastener is listed
-};
-
-/// Which activities stand inside a station. Each answer is kept, so that asking for all of them costs no more than one
-/// look at each, however deep they are nested.
-class StationMemo {
-public:
-    bool isInStation(const Activity& activity) {
-        std::vector<const Activity*> unknown;
-        const Activity* at = &activity;
-        while (at && !known_.contains(at)) {
-            unknown.push_back(at);
-            at = at->parent();
-        }
-        bool inside = at && (known_[at] || at->kind() == ActivityKind::Station);
-        for (auto each = unknown.rbegin(); each != unknown.rend(); ++each) {
-            known_[*each] = inside;
-            inside = inside || (*each)->kind() == ActivityKind::Station;
-        }
-        return known_[&activity];
-    }
-
-private:
-    std::unordered_map<const Activity*, bool> known_;
 };
 
 bool holdsFastener(const ObjectList& list) {
@@ -100,27 +62,27 @@ bool holdsFastener(const ObjectList& list) {
                        [](const ModelObject* object) { return dynamic_cast<const Fastener*>(object) != nullptr; });
 }
 
-void addOffer(const Activity& activity, StationMemo& stations, Offer& offer) {
+void addOffer(const Activity& activity, VXMBomGenerator& generator, Offer& offer) {
     for (const ObjectList* list : {&activity.firstAssigned, &activity.assigned, &activity.removed, &activity.items}) {
         offer.anything = offer.anything || !list->empty();
         offer.fasteners = offer.fasteners || holdsFastener(*list);
     }
     offer.anything = offer.anything || !activity.outputs.empty();
-    if (activity.firstAssigned.empty() && activity.outputs.empty()) {
-        return;
-    }
-    const bool loads = activity.kind() == ActivityKind::Loading && !activity.firstAssigned.empty();
-    const bool counts = loads || !stations.isInStation(activity);
-    offer.brings = offer.brings || counts;
-    offer.shutInStation = offer.shutInStation || !counts;
+    VXMFabFlowNode* const node = nodeOf(generator, activity);
+    const auto add = [&](const ObjectList& list, VXMFabMBOMNode::AssignmentType type) {
+        if (!list.empty()) {
+            (!node || generator.UseProducts(node, type) == 1 ? offer.brings : offer.shutInStation) = true;
+        }
+    };
+    add(activity.firstAssigned, VXMFabMBOMNode::AT_FirstAssign);
+    add(activity.outputs, VXMFabMBOMNode::AT_Create);
 }
 
-Offer offerOf(const std::vector<const ModelObject*>& steps) {
+Offer offerOf(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps) {
     Offer offer;
-    StationMemo stations;
     for (const ModelObject* step : steps) {
         if (step->sort() == Sort::Activity) {
-            addOffer(static_cast<const Activity&>(*step), stations, offer);
+            addOffer(static_cast<const Activity&>(*step), generator, offer);
         } else if (const Behaviour* const behaviour = static_cast<const Resource*>(step)->behaviour()) {
             const bool lists = !behaviour->assigned.empty() || !behaviour->outputs.empty();
             offer.anything = offer.anything || lists;
@@ -176,8 +138,7 @@ std::string lossText(const Ways& ways, const char* effect) {
 }
 
 bool showsFastener(VXMBomGenerator& generator, const ModelObject& step) {
-    const QORBaseUnknown_var handle(const_cast<ModelObject*>(&step));
-    const VXMFabFlowNode* const node = generator.CheckUse(handle);
+    const VXMFabFlowNode* const node = nodeOf(generator, step);
     return node && node->GetNumberOfFasteners() > 0;
 }
 
@@ -185,12 +146,12 @@ bool showsFastener(VXMBomGenerator& generator, const ModelObject& step) {
 /// none being lost.
 std::optional<std::string> whyEmpty(VXMBomGenerator& generator, const Ways& ways) {
     const std::string empty = "the bill is empty: ";
-    const Offer missed = offerOf(ways.lost);
+    const Offer missed = offerOf(generator, ways.lost);
     if (missed.brings || std::any_of(ways.lost.begin(), ways.lost.end(),
                                      [&](const ModelObject* step) { return showsFastener(generator, *step); })) {
         return empty + lossText(ways, "");
     }
-    const Offer offered = offerOf(ways.reached);
+    const Offer offered = offerOf(generator, ways.reached);
     const char* const reason = reasonFor(offered.anything ? offered : missed);
     if (!ways.lost.empty()) {
         return empty + reason + "; " + lossText(ways, "");
@@ -202,15 +163,12 @@ std::optional<std::string> whyEmpty(VXMBomGenerator& generator, const Ways& ways
 
 std::vector<const ModelObject*> stepsFrom(const ModelObject& root) {
     std::vector<const ModelObject*> steps;
-    std::vector<const ModelObject*> open{&root};
-    while (!open.empty()) {
-        const ModelObject* const object = open.back();
-        open.pop_back();
-        if (isStep(*object)) {
-            steps.push_back(object);
+    auto& top = static_cast<FlowObject&>(const_cast<ModelObject&>(root)); // walked, not changed
+    walkContents(top, [&](const FlowObject& object, const ModelObject*) {
+        if (isStep(object)) {
+            steps.push_back(&object);
         }
-        pushNested(*object, open);
-    }
+    });
     return steps;
 }
 

@@ -7,9 +7,9 @@ namespace planner {
 
 namespace {
 
-constexpr KindPair kAdded{ChangeKind::StepAdded, ChangeKind::StepGone};
-constexpr KindPair kRemoved{ChangeKind::StepGone, ChangeKind::StepAdded};
-constexpr KindPair kMoved{ChangeKind::StepGone, ChangeKind::StepGone};
+constexpr KindPair kAdded{ChangeKind::FlowObjectAdded, ChangeKind::FlowObjectGone};
+constexpr KindPair kRemoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectAdded};
+constexpr KindPair kMoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectGone};
 
 OptionalList<Activity*>& activitiesOf(FlowObject& container) {
     if (container.sort() == Sort::Resource) {
@@ -45,7 +45,7 @@ Spot spotOf(const Plan& plan, const Activity& activity) {
 } // namespace
 
 Activity& PlanEditor::addActivity(FlowObject& container, const NewActivity& made, std::size_t position) {
-    checkPlaced(plan(), container);
+    checkStands(plan(), container);
     auto& list = activitiesOf(container);
     checkNewId(plan(), made.id);
     checkText(made.name.value_or(""));
@@ -64,7 +64,7 @@ Activity& PlanEditor::addActivity(FlowObject& container, const NewActivity& made
 }
 
 void PlanEditor::removeActivity(Activity& activity) {
-    checkPlaced(plan(), activity);
+    checkStands(plan(), activity);
     const Spot spot = spotOf(plan(), activity);
     perform("Remove " + quoted(activity), [&] {
         place(kRemoved, activity, spot, std::nullopt);
@@ -73,8 +73,8 @@ void PlanEditor::removeActivity(Activity& activity) {
 }
 
 void PlanEditor::moveActivity(Activity& activity, FlowObject& container, std::size_t position) {
-    checkPlaced(plan(), activity);
-    checkPlaced(plan(), container);
+    checkStands(plan(), activity);
+    checkStands(plan(), container);
     auto& list = activitiesOf(container);
     checkNoCycle(activity, &container);
     const Spot from = spotOf(plan(), activity);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "planner/edit/Kinds.h"
+#include "planner/edit/ChangeKind.h"
 #include "planner/edit/ListRef.h"
 #include "planner/edit/Mentions.h"
 

@@ -35,8 +35,8 @@ void checkNewId(const Plan& plan, std::string_view id) {
     }
 }
 
-void checkPlaced(const Plan& plan, const ModelObject& object) {
-    bool isHere = object.isPlaced();
+void checkStands(const Plan& plan, const ModelObject& object) {
+    bool isHere = object.standsInPlan();
     if (isHere && !object.id().empty()) {
         isHere = plan.find(object.id()) == &object;
     } else if (isHere && object.sort() == Sort::Behaviour) {

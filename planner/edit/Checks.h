@@ -16,7 +16,7 @@ void checkText(std::string_view text);
 void checkNewId(const Plan& plan, std::string_view id);
 
 /// The object stands in the plan.
-void checkPlaced(const Plan& plan, const ModelObject& object);
+void checkStands(const Plan& plan, const ModelObject& object);
 
 /// The shape has the sizes of its form, the place its numbers.
 void checkShape(const Shape& shape);

@@ -48,7 +48,7 @@ void PlanEditor::checkMayDrop(const ModelObject& owner, const ObjectList& list) 
 }
 
 ObjectList& PlanEditor::listFor(ModelObject& owner, Relation relation) const {
-    checkPlaced(plan(), owner);
+    checkStands(plan(), owner);
     ObjectList* const list = listOf(owner, relation);
     if (!list) {
         throw EditError(EditError::Fault::WrongSort,
@@ -59,7 +59,7 @@ ObjectList& PlanEditor::listFor(ModelObject& owner, Relation relation) const {
 
 void PlanEditor::putItem(ModelObject& owner, Relation relation, Item& item, std::size_t position) {
     ObjectList& list = listFor(owner, relation);
-    checkPlaced(plan(), item);
+    checkStands(plan(), item);
     if (relation == Relation::Children) {
         checkIsOccurrence(item);
     }
@@ -128,7 +128,7 @@ Item& PlanEditor::addItem(const NewItem& made, std::size_t position) {
 }
 
 void PlanEditor::removeItem(Item& item) {
-    checkPlaced(plan(), item);
+    checkStands(plan(), item);
     perform("Remove " + quoted(item), [&] {
         takeMentions(item);
         const ListRef list(plan().items);
@@ -150,7 +150,7 @@ void PlanEditor::takeMentions(const Item& item) {
 }
 
 void PlanEditor::setShape(Item& item, std::optional<Shape> shape) {
-    checkPlaced(plan(), item);
+    checkStands(plan(), item);
     if (shape) {
         checkShape(*shape);
     }
@@ -164,7 +164,7 @@ void PlanEditor::setShape(Item& item, std::optional<Shape> shape) {
 }
 
 void PlanEditor::setPlace(Item& item, std::optional<Place> place) {
-    checkPlaced(plan(), item);
+    checkStands(plan(), item);
     if (place) {
         checkPlace(*place);
     }
@@ -178,7 +178,7 @@ void PlanEditor::setPlace(Item& item, std::optional<Place> place) {
 }
 
 void PlanEditor::setFastenerType(Fastener& fastener, std::optional<std::string> type) {
-    checkPlaced(plan(), fastener);
+    checkStands(plan(), fastener);
     checkText(type.value_or(""));
     perform("Change the type of " + quoted(fastener), [&] {
         open_->make(
@@ -187,7 +187,7 @@ void PlanEditor::setFastenerType(Fastener& fastener, std::optional<std::string> 
 }
 
 void PlanEditor::setAssigned(Fastener& fastener, std::optional<bool> assigned) {
-    checkPlaced(plan(), fastener);
+    checkStands(plan(), fastener);
     perform("Change the assignment of " + quoted(fastener), [&] {
         open_->make(makeExchange(kItemChanged, [&fastener, assigned]() mutable { fastener.assigned.swap(assigned); }));
     });

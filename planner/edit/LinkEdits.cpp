@@ -44,7 +44,7 @@ private:
 };
 
 void checkFlowEnd(const Plan& plan, const FlowObject& object) {
-    checkPlaced(plan, object);
+    checkStands(plan, object);
     if (object.sort() == Sort::Behaviour && object.id().empty()) {
         throw EditError(EditError::Fault::WrongSort, "a behaviour without an id can't be linked");
     }
@@ -63,8 +63,8 @@ void PlanEditor::addLink(FlowObject& from, FlowObject& to) {
 }
 
 void PlanEditor::removeLink(FlowObject& from, FlowObject& to) {
-    checkPlaced(plan(), from);
-    checkPlaced(plan(), to);
+    checkStands(plan(), from);
+    checkStands(plan(), to);
     // Either view has the link; the shorter one is looked at.
     const LinkView& view = from.linksOut().size() < to.linksIn().size() ? from.linksOut() : to.linksIn();
     const auto link = std::find_if(view.begin(), view.end(),

@@ -26,11 +26,11 @@ std::size_t searchFrom(std::size_t start, const std::vector<T*>& entries, const 
 
 template <class T>
 std::size_t placeOf(const std::vector<T*>& entries, const ModelObject& object) {
-    const std::size_t hint = object.placeHint();
+    const std::size_t hint = object.positionHint();
     const std::size_t place = searchFrom(hint, entries, object);
     if (std::max(hint, place) - std::min(hint, place) > kFar) {
         for (std::size_t i = 0; i < entries.size(); ++i) {
-            entries[i]->setPlaceHint(i);
+            entries[i]->setPositionHint(i);
         }
     }
     return place;
@@ -40,7 +40,7 @@ template <class T>
 void insertInto(OptionalList<T*>& list, std::size_t position, ModelObject& object) {
     auto& entries = list.make();
     entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(position), static_cast<T*>(&object));
-    object.setPlaceHint(position);
+    object.setPositionHint(position);
 }
 
 template <class T>

@@ -73,13 +73,7 @@ void Mentions::make() {
     for (Item* item : plan_.items) {
         ownerCame(*item);
     }
-    const auto enter = [this](FlowObject& object, ModelObject*) {
-        ownerCame(object);
-    };
-    walkContents(*plan_.process(), enter);
-    for (Resource* resource : plan_.resources) {
-        walkContents(*resource, enter);
-    }
+    walkPlan(plan_, [this](FlowObject& object, ModelObject*) { ownerCame(object); });
 }
 
 } // namespace planner

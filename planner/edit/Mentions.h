@@ -1,7 +1,7 @@
 #pragma once
 
-#include "planner/edit/Relation.h"
 #include "planner/model/Plan.h"
+#include "planner/model/Relation.h"
 
 #include <cstddef>
 #include <unordered_map>

@@ -26,12 +26,12 @@ void PlanEditor::group(const std::string& text, const std::function<void()>& edi
 }
 
 void PlanEditor::finishStep() {
-    Step step = std::move(*open_);
+    UndoStep step = std::move(*open_);
     open_.reset();
     if (step.size() == 0) {
         return;
     }
-    const Kinds kinds = step.kindsMade();
+    const ChangeKinds kinds = step.kindsMade();
     stack_.push(std::move(step));
     publish(kinds);
 }
@@ -53,7 +53,7 @@ bool PlanEditor::redo() {
 }
 
 /// Uses nothing of the editor once it tells: a subscriber may end it.
-void PlanEditor::publish(const Kinds& kinds) const {
+void PlanEditor::publish(const ChangeKinds& kinds) const {
     const QORVar<QOREventSubscriber> publisher(plan().process()->GetEventPublisher());
     std::exception_ptr first;
     for (const int kind : kinds.numbers()) {
@@ -119,7 +119,7 @@ void PlanEditor::takeContents(FlowObject& top) {
 }
 
 void PlanEditor::rename(ModelObject& object, std::string name) {
-    checkPlaced(plan(), object);
+    checkStands(plan(), object);
     if (object.sort() == Sort::Behaviour) {
         throw EditError(EditError::Fault::WrongSort, quoted(object) + " is a behaviour, which can't have a name");
     }

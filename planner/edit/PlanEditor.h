@@ -126,7 +126,7 @@ private:
     template <class Edits>
     void perform(const std::string& text, Edits edits);
     void finishStep();
-    void publish(const Kinds& kinds) const;
+    void publish(const ChangeKinds& kinds) const;
 
     void ownProcess(const ModelObject& edited, const std::string& reservedId = {});
     void makeStanding(std::vector<ModelObject*> objects, Standing::Direction direction);
@@ -141,7 +141,7 @@ private:
     QORVar<PlanDocument> document_;
     Mentions mentions_;
     UndoStack stack_;
-    std::optional<Step> open_; // the step that is being made
+    std::optional<UndoStep> open_; // the step that is being made
 };
 
 template <class Edits>

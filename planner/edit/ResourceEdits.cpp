@@ -7,9 +7,9 @@ namespace planner {
 
 namespace {
 
-constexpr KindPair kAdded{ChangeKind::StepAdded, ChangeKind::StepGone};
-constexpr KindPair kRemoved{ChangeKind::StepGone, ChangeKind::StepAdded};
-constexpr KindPair kMoved{ChangeKind::StepGone, ChangeKind::StepGone};
+constexpr KindPair kAdded{ChangeKind::FlowObjectAdded, ChangeKind::FlowObjectGone};
+constexpr KindPair kRemoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectAdded};
+constexpr KindPair kMoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectGone};
 
 ListRef resourcesIn(Plan& plan, Resource* parent) {
     return parent ? ListRef(parent->children) : ListRef(plan.resources);
@@ -35,7 +35,7 @@ std::unique_ptr<Change> makeBehaviourChange(KindPair kinds, Resource& resource, 
 
 Resource& PlanEditor::addResource(Resource* parent, const NewResource& made, std::size_t position) {
     if (parent) {
-        checkPlaced(plan(), *parent);
+        checkStands(plan(), *parent);
     }
     checkNewId(plan(), made.id);
     checkText(made.name.value_or(""));
@@ -55,7 +55,7 @@ Resource& PlanEditor::addResource(Resource* parent, const NewResource& made, std
 }
 
 void PlanEditor::removeResource(Resource& resource) {
-    checkPlaced(plan(), resource);
+    checkStands(plan(), resource);
     perform("Remove " + quoted(resource), [&] {
         place(kRemoved, resource, spotOf(plan(), resource), std::nullopt);
         takeContents(resource);
@@ -63,9 +63,9 @@ void PlanEditor::removeResource(Resource& resource) {
 }
 
 void PlanEditor::moveResource(Resource& resource, Resource* parent, std::size_t position) {
-    checkPlaced(plan(), resource);
+    checkStands(plan(), resource);
     if (parent) {
-        checkPlaced(plan(), *parent);
+        checkStands(plan(), *parent);
     }
     checkNoCycle(resource, parent);
     const Spot from = spotOf(plan(), resource);
@@ -75,7 +75,7 @@ void PlanEditor::moveResource(Resource& resource, Resource* parent, std::size_t 
 }
 
 Behaviour& PlanEditor::addBehaviour(Resource& resource, const std::string& id) {
-    checkPlaced(plan(), resource);
+    checkStands(plan(), resource);
     if (!id.empty()) {
         checkNewId(plan(), id);
     }
@@ -93,7 +93,7 @@ Behaviour& PlanEditor::addBehaviour(Resource& resource, const std::string& id) {
 }
 
 void PlanEditor::removeBehaviour(Resource& resource) {
-    checkPlaced(plan(), resource);
+    checkStands(plan(), resource);
     Behaviour* const behaviour = resource.behaviour();
     if (!behaviour) {
         throw EditError(EditError::Fault::NoSuchPlace, quoted(resource) + " has no behaviour");

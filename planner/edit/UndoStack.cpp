@@ -2,7 +2,7 @@
 
 namespace planner {
 
-void UndoStack::push(Step step) {
+void UndoStack::push(UndoStep step) {
     while (steps_.size() > done_) {
         steps_.back().forget();
         steps_.pop_back();
@@ -14,15 +14,15 @@ void UndoStack::push(Step step) {
     ++done_;
 }
 
-Kinds UndoStack::undo() {
-    Step& step = steps_[done_ - 1];
+ChangeKinds UndoStack::undo() {
+    UndoStep& step = steps_[done_ - 1];
     step.undo();
     --done_;
     return step.kindsUndone();
 }
 
-Kinds UndoStack::redo() {
-    Step& step = steps_[done_];
+ChangeKinds UndoStack::redo() {
+    UndoStep& step = steps_[done_];
     step.redo();
     ++done_;
     return step.kindsMade();

@@ -1,10 +1,12 @@
 #include "planner/model/Activity.h"
 
-#include "planner/model/OutputRecord.h"
-#include "planner/model/PlanPublisher.h"
+#include "planner/model/LinkList.h"
 
+#include "QORPlatform/framework/QORObjectCounts.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 #include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
 #include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
+#include "VXMBomInfrastructure/model/QORISPPProductIO.h"
 
 #include <array>
 #include <unordered_set>
@@ -27,6 +29,31 @@ const char* firstType(ActivityKind kind) {
     const char* const own = kOwnTypes[static_cast<std::size_t>(kind)];
     return own ? own : kStepType;
 }
+
+/// Record of one output of an activity. Made for the asking, and gone with the list that brought it.
+class OutputRecord final : public QORBaseUnknown {
+public:
+    explicit OutputRecord(ModelObject& product) : product_(&product) {}
+
+    QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override {
+        const QORStatus status = QORAnswer(iInterface, oInterface, record_);
+        return status < 0 ? QORBaseUnknown::QueryInterface(iInterface, oInterface) : status;
+    }
+
+    // Answer of QORISPPProductIO.
+    QORBaseUnknown_var GetProduct() const { return product_; }
+
+private:
+    QORBaseUnknown_var product_;
+    QORISPPProductIOTie<OutputRecord> record_{this};
+};
+
+/// Publishes the changes of one plan, for the plan's root activity. Lives as long as anybody counts on it, so that who
+/// is subscribed can still unsubscribe when the plan is gone.
+class PlanPublisher final : public QOREventSubscriber, private QORCounted<PlanPublisher> {
+public:
+    static constexpr std::string_view kCountName = "planner::PlanPublisher";
+};
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "planner/model/FlowObject.h"
 
+#include "planner/model/LinkList.h"
+
 namespace planner {
 
 void FlowObject::forgetNeighbours() {

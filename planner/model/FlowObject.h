@@ -1,9 +1,10 @@
 #pragma once
 
-#include "planner/model/Link.h"
 #include "planner/model/ModelObject.h"
 
 namespace planner {
+
+struct Link;
 
 using LinkView = OptionalList<Link*>;
 

@@ -1,7 +1,5 @@
 #include "planner/model/Item.h"
 
-#include "planner/model/ProductAnswers.h"
-
 namespace planner {
 
 const Geometry& Item::geometry() const {

@@ -1,12 +1,24 @@
 #pragma once
 
-#include "planner/model/Link.h"
-
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <vector>
 
 namespace planner {
+
+class FlowObject;
+
+/// A directed link of the flow. It has its place in the plan's list, and the views of both its ends name it.
+struct Link {
+    FlowObject* from;
+    FlowObject* to;
+
+    // Kept by the list that the link is in.
+    Link* previous = nullptr;
+    Link* next = nullptr;
+    std::uint64_t order = 0; ///< grows along the list
+};
 
 /// The links of a plan in order; may be absent, which is another thing than empty.
 ///

@@ -1,5 +1,7 @@
 #include "planner/model/ModelObject.h"
 
+#include "QORPlatform/framework/QORInterfaceID.h"
+
 namespace planner {
 
 const char* sortText(Sort sort) {
@@ -37,6 +39,33 @@ void ModelObject::setNotes(std::string json) {
 
 ModelObject* ModelObject::behind(const QORBaseUnknown_var& handle) {
     return dynamic_cast<ModelObject*>(handle.Impl());
+}
+
+namespace {
+
+bool answers(ModelObject& object, const QORInterfaceID& interface) {
+    void* found = nullptr;
+    if (object.QueryInterface(interface, &found) < 0) {
+        return false;
+    }
+    object.Release(); // the reference that the cast counted
+    return true;
+}
+
+} // namespace
+
+QORListValQORBaseUnknown_var* newHandlesAnswering(const ObjectList& list, const char* interfaceName) {
+    if (!list.present()) {
+        return nullptr;
+    }
+    const QORInterfaceID interface(interfaceName);
+    auto handles = std::make_unique<QORListValQORBaseUnknown_var>();
+    for (ModelObject* object : list) {
+        if (answers(*object, interface)) {
+            handles->Append(QORBaseUnknown_var(object));
+        }
+    }
+    return handles.release();
 }
 
 } // namespace planner

@@ -43,11 +43,11 @@ public:
     void swapName(std::string& name, bool& isOwn);
 
     /// Whether the object stands in its plan. What was removed, or wasn't added yet, doesn't.
-    bool isPlaced() const { return isPlaced_; }
+    bool standsInPlan() const { return stands_; }
 
     /// Where in its list the object was when somebody last looked: a place to begin a search at.
-    std::size_t placeHint() const { return placeHint_; }
-    void setPlaceHint(std::size_t place) const { placeHint_ = static_cast<std::uint32_t>(place); }
+    std::size_t positionHint() const { return positionHint_; }
+    void setPositionHint(std::size_t place) const { positionHint_ = static_cast<std::uint32_t>(place); }
 
     /// Remarks that were kept for a user of the file: JSON text, empty when there are none.
     const std::string& notes() const;
@@ -70,8 +70,8 @@ private:
     std::unique_ptr<std::string> notes_;
     Sort sort_;
     bool hasOwnName_ = false;
-    bool isPlaced_ = false;
-    mutable std::uint32_t placeHint_ = 0;
+    bool stands_ = false;
+    mutable std::uint32_t positionHint_ = 0;
 };
 
 using ObjectList = OptionalList<ModelObject*>;
@@ -88,6 +88,9 @@ QORListValQORBaseUnknown_var* newHandles(const OptionalList<T*>& list) {
     }
     return handles.release();
 }
+
+/// New list of those objects that answer the named interface, null for an absent list.
+QORListValQORBaseUnknown_var* newHandlesAnswering(const ObjectList& list, const char* interfaceName);
 
 /// The same text as the platform's string.
 inline QORUnicodeString platformText(const std::string& text) {

@@ -2,8 +2,6 @@
 
 #include "planner/model/Contents.h"
 
-#include <algorithm>
-
 namespace planner {
 
 Plan::Plan() = default;
@@ -83,17 +81,13 @@ bool Plan::setId(ModelObject& object, std::string id) {
 void Plan::number() {
     for (Item* item : items) {
         numberNext(*item);
-        item->isPlaced_ = true;
+        item->stands_ = true;
     }
-    std::vector<ModelObject*> tops(resources.entries().begin(), resources.entries().end());
-    tops.insert(tops.begin(), process_);
-    for (ModelObject* top : tops) {
-        walkContents(*top, [this](FlowObject& object, ModelObject* container) {
-            numberNext(object);
-            object.isPlaced_ = true;
-            object.setContainer(container);
-        });
-    }
+    walkPlan(*this, [this](FlowObject& object, ModelObject* container) {
+        numberNext(object);
+        object.stands_ = true;
+        object.setContainer(container);
+    });
 }
 
 } // namespace planner

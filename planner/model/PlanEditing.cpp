@@ -12,14 +12,14 @@ void Plan::nameNew(ModelObject& object, std::string id) {
 }
 
 void Plan::enter(ModelObject& object) {
-    object.isPlaced_ = true;
+    object.stands_ = true;
     if (!object.id().empty()) {
         byId_.insert(object);
     }
 }
 
 void Plan::leave(ModelObject& object) {
-    object.isPlaced_ = false;
+    object.stands_ = false;
     if (!object.id().empty()) {
         byId_.erase(object);
     }

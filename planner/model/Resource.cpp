@@ -1,7 +1,5 @@
 #include "planner/model/Resource.h"
 
-#include "planner/model/ProductAnswers.h"
-
 namespace planner {
 
 QORStatus Behaviour::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {

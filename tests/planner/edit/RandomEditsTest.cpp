@@ -67,13 +67,7 @@ private:
     /// All that stands in the plan but items, in order.
     std::vector<FlowObject*> flows() {
         std::vector<FlowObject*> found;
-        const auto enter = [&](FlowObject& object, planner::ModelObject*) {
-            found.push_back(&object);
-        };
-        planner::walkContents(*plan().process(), enter);
-        for (Resource* resource : plan().resources) {
-            planner::walkContents(*resource, enter);
-        }
+        planner::walkPlan(plan(), [&](FlowObject& object, planner::ModelObject*) { found.push_back(&object); });
         return found;
     }
     FlowObject& anyFlow() {

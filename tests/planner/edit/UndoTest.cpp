@@ -27,7 +27,7 @@ TEST(Undo, BringsTheSameObjectsBackWhoeverHasTheirIdsMeanwhile) {
     const int number = numberOf(press);
     s.editor().removeActivity(s.activity("join"));
     EXPECT_EQ(held->GetName().Compare("press"), 2) << "a handle stays good";
-    EXPECT_FALSE(press.isPlaced());
+    EXPECT_FALSE(press.standsInPlan());
     s.editor().addItem({"press"});
     s.editor().undo();
     s.editor().undo();

@@ -9,9 +9,9 @@
 namespace planner {
 
 /// What a person undoes at once: changes in the order in which they were made, and a text that says what they do.
-class Step {
+class UndoStep {
 public:
-    explicit Step(std::string text) : text_(std::move(text)) {}
+    explicit UndoStep(std::string text) : text_(std::move(text)) {}
 
     const std::string& text() const { return text_; }
     std::size_t size() const { return changes_.size(); }
@@ -29,8 +29,8 @@ public:
     void forget();
 
     /// What views are told after the step was made, and after it was undone.
-    Kinds kindsMade() const;
-    Kinds kindsUndone() const;
+    ChangeKinds kindsMade() const;
+    ChangeKinds kindsUndone() const;
 
 private:
     std::string text_;

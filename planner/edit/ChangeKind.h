@@ -8,9 +8,9 @@ namespace planner {
 /// Kinds of notification, with the numbers that the views of a plan know them by.
 enum class ChangeKind : std::uint8_t {
     None = 0,
-    Renamed = 1,   ///< an activity or a resource has another name; no bill changes
-    StepAdded = 3, ///< an activity, a resource or a behaviour was added
-    StepGone = 17, ///< one was removed or moved
+    Renamed = 1,         ///< an activity or a resource has another name; no bill changes
+    FlowObjectAdded = 3, ///< an activity, a resource or a behaviour was added
+    FlowObjectGone = 17, ///< one was removed or moved
     LinkAdded = 18,
     LinkGone = 27,
     ListsChanged = 29, ///< items or outputs of an activity or a resource
@@ -24,7 +24,7 @@ struct KindPair {
 };
 
 /// A set of kinds.
-class Kinds {
+class ChangeKinds {
 public:
     void add(ChangeKind kind) { bits_ |= std::uint64_t(1) << static_cast<unsigned>(kind); }
 

@@ -1,10 +1,10 @@
-#include "planner/edit/Step.h"
+#include "planner/edit/UndoStep.h"
 
 #include <algorithm>
 
 namespace planner {
 
-void Step::make(std::unique_ptr<Change> change) {
+void UndoStep::make(std::unique_ptr<Change> change) {
     changes_.push_back(std::move(change));
     try {
         changes_.back()->apply();
@@ -14,7 +14,7 @@ void Step::make(std::unique_ptr<Change> change) {
     }
 }
 
-void Step::cancel(std::size_t size) {
+void UndoStep::cancel(std::size_t size) {
     while (changes_.size() > size) {
         changes_.back()->revert();
         changes_.back()->forget();
@@ -22,28 +22,28 @@ void Step::cancel(std::size_t size) {
     }
 }
 
-void Step::undo() {
+void UndoStep::undo() {
     std::for_each(changes_.rbegin(), changes_.rend(), [](const auto& change) { change->revert(); });
 }
 
-void Step::redo() {
+void UndoStep::redo() {
     std::for_each(changes_.begin(), changes_.end(), [](const auto& change) { change->apply(); });
 }
 
-void Step::forget() {
+void UndoStep::forget() {
     std::for_each(changes_.rbegin(), changes_.rend(), [](const auto& change) { change->forget(); });
 }
 
-Kinds Step::kindsMade() const {
-    Kinds kinds;
+ChangeKinds UndoStep::kindsMade() const {
+    ChangeKinds kinds;
     for (const auto& change : changes_) {
         kinds.add(change->kinds().made);
     }
     return kinds;
 }
 
-Kinds Step::kindsUndone() const {
-    Kinds kinds;
+ChangeKinds UndoStep::kindsUndone() const {
+    ChangeKinds kinds;
     for (const auto& change : changes_) {
         kinds.add(change->kinds().takenBack);
     }

@@ -1,14 +1,8 @@
-#include "planner/edit/Relation.h"
+#include "planner/model/Relation.h"
 
 #include "planner/model/Resource.h"
 
 namespace planner {
-
-std::string_view relationText(Relation relation) {
-    constexpr std::array<std::string_view, 7> kTexts{"first_assigned", "assigned", "removed", "items",
-                                                     "outputs",        "children", "holds"};
-    return kTexts[static_cast<std::size_t>(relation)];
-}
 
 namespace {
 
@@ -59,6 +53,40 @@ ObjectList* listOf(ModelObject& owner, Relation relation) {
         break;
     }
     return relation == Relation::Children ? &static_cast<Resource&>(owner).children : nullptr;
+}
+
+const ObjectList* listOf(const ModelObject& owner, Relation relation) {
+    return listOf(const_cast<ModelObject&>(owner), relation);
+}
+
+Wanted wantedIn(Relation relation, Sort owner) {
+    if (relation != Relation::Children) {
+        return Wanted::AnyItem;
+    }
+    return owner == Sort::Resource ? Wanted::ProductItem : Wanted::ProductOccurrence;
+}
+
+bool fits(const ModelObject& object, Wanted wanted) {
+    const Sort sort = object.sort();
+    const bool isProduct = sort == Sort::Item && static_cast<const Item&>(object).answersProduct();
+    switch (wanted) {
+    case Wanted::AnyItem:
+        return sort == Sort::Item;
+    case Wanted::ProductOccurrence:
+        return isProduct || sort == Sort::Resource;
+    case Wanted::ProductItem:
+        return isProduct;
+    case Wanted::FlowEnd:
+        break;
+    }
+    return sort != Sort::Item;
+}
+
+const char* wantedText(Wanted wanted) {
+    constexpr std::array<const char*, 4> kTexts{"an item", "a product, an assembly with \"children\", or a resource",
+                                                "a product, or an assembly with \"children\"",
+                                                "an activity, a resource or a behaviour"};
+    return kTexts[static_cast<std::size_t>(wanted)];
 }
 
 } // namespace planner
