@@ -1,0 +1,61 @@
+// The planner as a desktop application.
+
+#include "planner/desktop/app/Display.h"
+#include "planner/desktop/app/MainWindow.h"
+#include "planner/desktop/app/Options.h"
+
+#include "QORPlatform/dialog/QORDialogLoop.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+constexpr int kBad = 2;
+
+int complain(const std::string& message) {
+    std::fputs(("planner-desktop: " + message + '\n').c_str(), stderr);
+    return kBad;
+}
+
+int run(const planner::desktop::Options& options) {
+    planner::desktop::MainWindow window;
+    const QStringList faults = window.open(options);
+    if (!faults.isEmpty()) {
+        return complain(faults.join('\n').toStdString());
+    }
+    window.show();
+    if (options.screenshot) {
+        QApplication::processEvents();
+        const bool written = window.grab().save(QString::fromStdString(*options.screenshot), "PNG");
+        return written ? 0 : complain(*options.screenshot + " can't be written");
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const planner::desktop::Options options = planner::desktop::parseOptions(argc, argv);
+    if (options.print) {
+        return std::fputs(options.print->c_str(), stdout) < 0 ? kBad : 0;
+    }
+    if (!options.error.empty()) {
+        return complain(options.error);
+    }
+    if (const auto problem = planner::desktop::displayProblem()) {
+        return complain(*problem);
+    }
+    try {
+        QApplication app(argc, argv);
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                         [] { QORDialogLoop::Get().Run(); });
+        return run(options);
+    } catch (const std::exception& error) {
+        complain(error.what());
+        return 1;
+    }
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "QORPlatform/dialog/QORWatch.h"
+#include "QORPlatform/frame/QORFrmWindow.h"
+
+#include <QPointer>
+#include <QTreeView>
+#include <QWidget>
+
+class QSplitter;
+
+namespace planner::desktop {
+
+/// What a person sees of a window of the platform: its tree beside its viewer. Tells the window its size. May outlive
+/// the window, and is empty then.
+class FramePane : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FramePane(QORFrmWindow& window);
+
+    /// The window, null when it has ended.
+    QORFrmWindow* window() const { return window_.Get(); }
+    QTreeView* tree() const { return tree_; }
+    QWidget* view() const { return view_; }
+
+    void setTree(QTreeView* tree);
+    void setView(QWidget* view);
+
+    /// The window's heading as it fits.
+    QString title() const;
+
+    /// Asks the window to end, as a person's close does.
+    void close();
+
+Q_SIGNALS:
+    void titleChanged();
+    /// The window is to be seen, or no longer; comes to the front; is off the screen for good.
+    void shown();
+    void hidden();
+    void raised();
+    void ended();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QORWatch<QORFrmWindow> window_;
+    QSplitter* splitter_;
+    QPointer<QTreeView> tree_;
+    QPointer<QWidget> view_;
+};
+
+} // namespace planner::desktop
