@@ -1,10 +1,12 @@
 #include "QORPlatform/navigation/QORNavigBox.h"
 
+#include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/framework/QORDictionary.h"
 #include "QORPlatform/framework/QORMetaClass.h"
 #include "QORPlatform/navigation/QORINavigElement.h"
 #include "QORPlatform/navigation/QORINavigateObject.h"
 #include "QORPlatform/navigation/QORINavigateObjectPPR.h"
+#include "QORPlatform/navigation/QORNavigMemory.h"
 
 #include <utility>
 
@@ -34,7 +36,9 @@ QORNavigBox::QORNavigBox(QORDialog* iParent, const QORString& iName, QORFrmEdito
 }
 
 QORNavigBox::~QORNavigBox() {
+    // Nobody is told of rows that end with the box.
     _peer.reset();
+    _selected.clear();
     RemoveAllRoots();
     // Late types that nobody extends are placed each time a node is asked for its class.
     QORDictionary::Get().DropUnusedPlaceholders();
@@ -59,46 +63,76 @@ QORNavigInstance* QORNavigBox::GetRoot(int iPosition) const {
 }
 
 QORStatus QORNavigBox::AddRoot(const QORBaseUnknown_var& iRoot) {
-    QORListValQORBaseUnknown_var objects;
-    objects.Append(iRoot);
     const QORWatch<QORNavigBox> self(this);
-    Instances made = MakeInstances(objects, 0);
-    if (made.empty() || !self.Get()) {
+    QORVar<QORNavigInstance> made;
+    if (IsTreeObject(iRoot) && !(ShowsOnce() && IsShown(iRoot))) {
+        made = MakeInstance(iRoot, 0, _rootsAdded + 1);
+    }
+    if (!made || !self.Get()) {
         return QOR_FAILED;
     }
-    _roots.push_back(std::move(made.front()));
-    _roots.back()->PlaceBelow(nullptr, GetRootCount());
-    RootsChanged();
+    const int position = GetRootCount() + 1;
+    RowsAboutToCome(nullptr, position, position);
+    ++_rootsAdded;
+    _roots.push_back(std::move(made));
+    _roots.back()->PlaceBelow(nullptr, position);
+    RowsCame(nullptr, position, position);
     return QOR_OK;
 }
 
 void QORNavigBox::RemoveAllRoots() {
-    if (_roots.empty()) {
-        return;
+    _rows.reset();
+    _rootsAdded = 0;
+    if (!_roots.empty()) {
+        TakeOut(nullptr, 1, GetRootCount());
     }
-    while (!_roots.empty()) {
-        QORNavigInstance::TakeOut(_roots, GetRootCount());
-    }
-    RootsChanged();
 }
 
-QORNavigBox::Instances QORNavigBox::MakeInstances(const QORListValQORBaseUnknown_var& iObjects, int iDepth) {
+/// Takes rows out, below iParent or among the roots, with all that is below them.
+void QORNavigBox::TakeOut(QORNavigInstance* iParent, int iFirst, int iLast) {
     const QORWatch<QORNavigBox> self(this);
-    const bool once = _controller && _controller->IsNoDuplicate();
+    const QORVar<QORNavigInstance> parent(iParent);
+    if (_peer) {
+        _peer->RowsAboutToGo(iParent, iFirst, iLast);
+    }
+    QORNavigInstance::TakeOut(parent ? parent->_children : _roots, iFirst, iLast);
+    if (!self.Get()) {
+        return;
+    }
+    if (_peer) {
+        _peer->RowsGone(iParent, iFirst, iLast);
+    }
+    TellSelection();
+}
+
+QORVar<QORNavigInstance> QORNavigBox::MakeInstance(const QORBaseUnknown_var& iObject, int iDepth, int iOrdinal) {
+    auto made = QORVar<QORNavigInstance>::Adopt(new QORNavigInstance(*this, iDepth, iObject, iOrdinal));
+    made->Update();
+    return made;
+}
+
+/// Instances for the tree objects behind ioTried, which moves on, up to iCount instances. None when the box ends
+/// meanwhile.
+QORNavigBox::Instances QORNavigBox::MakeInstances(const QORListValQORBaseUnknown_var& iObjects, int& ioTried,
+                                                  int iCount, int iDepth) {
+    const QORWatch<QORNavigBox> self(this);
     std::unordered_set<QORBaseUnknown*> met;
     Instances made;
-    made.reserve(iObjects.Size());
-    for (const QORBaseUnknown_var& object : iObjects) {
-        if (!IsTreeObject(object) || (once && (IsShown(object) || !met.insert(object.Impl()).second))) {
-            continue;
+    while (ioTried < iObjects.Size() && static_cast<int>(made.size()) < iCount) {
+        const QORBaseUnknown_var object = iObjects[++ioTried];
+        const bool isRepeat = ShowsOnce() && (IsShown(object) || !met.insert(object.Impl()).second);
+        if (!isRepeat && IsTreeObject(object)) {
+            made.push_back(MakeInstance(object, iDepth, ioTried));
         }
-        made.push_back(QORVar<QORNavigInstance>::Adopt(new QORNavigInstance(*this, iDepth, object)));
-        made.back()->Update();
         if (!self.Get()) {
             return {};
         }
     }
     return made;
+}
+
+bool QORNavigBox::ShowsOnce() const {
+    return _controller && _controller->IsNoDuplicate();
 }
 
 bool QORNavigBox::Holds(const QORNavigInstance& iInstance) const {
@@ -123,9 +157,7 @@ void QORNavigBox::Left(QORNavigInstance& iInstance) {
     if (--place->second == 0) {
         _shown.erase(place);
     }
-    if (_selected.erase(&iInstance) > 0) {
-        SelectionChanged();
-    }
+    _isSelectionToBeTold |= _selected.erase(&iInstance) > 0;
 }
 
 void QORNavigBox::SelectInstance(QORNavigInstance& iInstance, bool iOn) {
@@ -143,11 +175,28 @@ void QORNavigBox::SelectInstance(QORNavigInstance& iInstance, bool iOn) {
     SelectionChanged();
 }
 
+void QORNavigBox::SetSelection(const std::vector<QORNavigInstance*>& iInstances) {
+    std::unordered_set<QORNavigInstance*> selected;
+    for (QORNavigInstance* instance : iInstances) {
+        if (instance && Holds(*instance)) {
+            if (!AllowsSeveral()) {
+                selected.clear();
+            }
+            selected.insert(instance);
+        }
+    }
+    if (selected != _selected) {
+        _selected = std::move(selected);
+        SelectionChanged();
+    }
+}
+
 bool QORNavigBox::IsSelected(const QORNavigInstance& iInstance) const {
     return _selected.contains(const_cast<QORNavigInstance*>(&iInstance));
 }
 
 void QORNavigBox::ReportExpand(QORNavigInstance& iInstance) {
+    const QORHandling handling(this);
     const QORVar<QORNavigInstance> held(&iInstance);
     if (held->Expand() < 0) {
         return;
@@ -161,19 +210,40 @@ void QORNavigBox::ReportSelect(QORNavigInstance& iInstance, bool iExtend) {
     if (!Holds(iInstance)) {
         return;
     }
+    const QORHandling handling(this);
     const QORVar<QORNavigInstance> held(&iInstance);
     const bool extend = iExtend && AllowsSeveral();
     if (extend) {
         SelectInstance(iInstance, !IsSelected(iInstance));
-    } else if (GetSelection() != std::vector{&iInstance}) {
-        _selected = {&iInstance};
-        SelectionChanged();
+    } else {
+        SetSelection({&iInstance});
     }
-    const QORINavigElement_var element(held->GetNode());
+    TellSelected(*held.Get(), extend);
+}
+
+void QORNavigBox::ReportSelection(const std::vector<QORNavigInstance*>& iInstances) {
+    const QORHandling handling(this);
+    const QORWatch<QORNavigBox> self(this);
+    const auto before = _selected;
+    SetSelection(iInstances);
+    QORNavigInstance::Instances selected;
+    for (QORNavigInstance* instance : iInstances) {
+        if (self.Get() && instance && IsSelected(*instance) && !before.contains(instance)) {
+            selected.emplace_back(instance);
+        }
+    }
+    for (const auto& instance : selected) {
+        TellSelected(*instance.Get(), selected.size() > 1);
+    }
+}
+
+/// Lets the node's extension follow.
+void QORNavigBox::TellSelected(QORNavigInstance& iInstance, bool iExtends) {
+    const QORINavigElement_var element(iInstance.GetNode());
     if (!element) {
         return;
     }
-    if (extend) {
+    if (iExtends) {
         element->ProcessAfterExtSelect();
     } else {
         element->ProcessAfterSelect();
@@ -184,21 +254,28 @@ void QORNavigBox::ReportAction(QORNavigInstance& iInstance) {
     if (!Holds(iInstance)) {
         return;
     }
+    const QORHandling handling(this);
     const QORVar<QORNavigInstance> held(&iInstance);
     if (const QORINavigElement_var element(held->GetNode()); element) {
         element->ProcessAfterAction();
     }
 }
 
-void QORNavigBox::RootsChanged() {
+void QORNavigBox::RowsAboutToCome(QORNavigInstance* iParent, int iFirst, int iLast) {
     if (_peer) {
-        _peer->RootsChanged();
+        _peer->RowsAboutToCome(iParent, iFirst, iLast);
     }
 }
 
-void QORNavigBox::ChildrenChanged(QORNavigInstance& iInstance) {
+void QORNavigBox::RowsCame(QORNavigInstance* iParent, int iFirst, int iLast) {
     if (_peer) {
-        _peer->ChildrenChanged(iInstance);
+        _peer->RowsCame(iParent, iFirst, iLast);
+    }
+}
+
+void QORNavigBox::OpenChanged(QORNavigInstance& iInstance) {
+    if (_peer) {
+        _peer->OpenChanged(iInstance);
     }
 }
 
@@ -209,9 +286,19 @@ void QORNavigBox::NodeChanged(QORNavigInstance& iInstance) {
 }
 
 void QORNavigBox::SelectionChanged() {
+    _isSelectionToBeTold = true;
+    TellSelection();
+}
+
+/// Tells that other rows are selected, unless that was told, or a refill is under way.
+void QORNavigBox::TellSelection() {
+    if (_refills > 0 || !std::exchange(_isSelectionToBeTold, false)) {
+        return;
+    }
     if (_peer) {
         _peer->SelectionChanged();
     }
+    Publish(SELECTION_CHANGED(), nullptr);
 }
 
 void QORNavigBox::SettingsChanged() {

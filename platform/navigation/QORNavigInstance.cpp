@@ -28,8 +28,9 @@ std::unique_ptr<List> Ask(QORBaseUnknown* iTreeObject, List* (QORINavigateObject
 
 } // namespace
 
-QORNavigInstance::QORNavigInstance(QORNavigBox& iBox, int iDepth, const QORBaseUnknown_var& iTreeObject)
-    : _box(&iBox), _node(QORVar<QORNavigNode>::Adopt(new QORNavigNode(iTreeObject))), _depth(iDepth) {
+QORNavigInstance::QORNavigInstance(QORNavigBox& iBox, int iDepth, const QORBaseUnknown_var& iTreeObject, int iOrdinal)
+    : _box(&iBox), _node(QORVar<QORNavigNode>::Adopt(new QORNavigNode(iTreeObject))), _depth(iDepth),
+      _ordinal(iOrdinal) {
     _node->_instance = this;
 }
 
@@ -41,8 +42,15 @@ QORNavigInstance* QORNavigInstance::GetChild(int iPosition) const {
     return iPosition >= 1 && iPosition <= GetChildCount() ? _children[iPosition - 1].Get() : nullptr;
 }
 
+QORNavigInstance* QORNavigInstance::FindChild(int iOrdinal) const {
+    const auto place = std::lower_bound(
+        _children.begin(), _children.end(), iOrdinal,
+        [](const QORVar<QORNavigInstance>& iChild, int iWanted) { return iChild->_ordinal < iWanted; });
+    return place != _children.end() && (*place)->_ordinal == iOrdinal ? place->Get() : nullptr;
+}
+
 bool QORNavigInstance::MayExpand() const {
-    return GetBox() && GetBox()->AllowsOpeningAt(_depth) && (!_filled || !_children.empty());
+    return GetBox() && GetBox()->AllowsOpeningAt(_depth) && (!_objects || !_children.empty() || GetPendingCount() > 0);
 }
 
 QORStatus QORNavigInstance::Expand() {
@@ -53,29 +61,74 @@ QORStatus QORNavigInstance::Expand() {
     if (_expanded) {
         return QOR_OK;
     }
-    if (!_filled) {
-        Fill();
-    }
-    if (!GetBox()) {
+    if (!Fill()) {
         return QOR_FAILED;
     }
     _expanded = true;
-    GetBox()->ChildrenChanged(*this);
+    GetBox()->OpenChanged(*this);
     return QOR_OK;
 }
 
-void QORNavigInstance::Fill() {
-    const auto objects = Ask(GetTreeObject(), &QORINavigateObject::GetChildren, &QORINavigateObjectPPR::GetChildren);
-    Instances made = GetBox() && objects ? GetBox()->MakeInstances(*objects, _depth + 1) : Instances();
-    if (!GetBox() || _filled) {
+/// Asks the tree object what is below it, unless that was done; false when the instance leaves the tree meanwhile.
+bool QORNavigInstance::Fill() {
+    if (!_objects && GetBox()) {
+        Objects objects = Ask(GetTreeObject(), &QORINavigateObject::GetChildren, &QORINavigateObjectPPR::GetChildren);
+        if (!objects) {
+            objects = std::make_shared<const QORListValQORBaseUnknown_var>();
+        }
+        int tried = 0;
+        Instances made = MakeNext(objects, tried, GetBox() ? GetBox()->GetPortion() : 0);
+        if (GetBox() && !_objects) {
+            _objects = std::move(objects);
+            _triedUpTo = tried;
+            TakeIn(std::move(made));
+        }
+    }
+    return GetBox() != nullptr;
+}
+
+int QORNavigInstance::GetPendingCount() const {
+    return _objects ? _objects->Size() - _triedUpTo : 0;
+}
+
+int QORNavigInstance::Fetch(int iCount) {
+    const QORVar<QORNavigInstance> self(this);
+    if (!GetBox() || GetPendingCount() == 0 || iCount <= 0) {
+        return 0;
+    }
+    const int before = _triedUpTo;
+    int tried = before;
+    Instances made = MakeNext(_objects, tried, iCount);
+    if (!GetBox() || _triedUpTo != before) {
+        return 0;
+    }
+    const int count = static_cast<int>(made.size());
+    _triedUpTo = tried;
+    TakeIn(std::move(made));
+    return count;
+}
+
+QORNavigInstance::Instances QORNavigInstance::MakeNext(const Objects& iObjects, int& ioTried, int iCount) {
+    return GetBox() ? GetBox()->MakeInstances(*iObjects, ioTried, iCount, _depth + 1) : Instances();
+}
+
+/// Takes in children behind those that are there.
+void QORNavigInstance::TakeIn(Instances iMade) {
+    if (iMade.empty()) {
         return;
     }
-    _filled = true;
-    _children = std::move(made);
-    int position = 0;
-    for (const auto& child : _children) {
-        child->PlaceBelow(this, ++position);
+    const int before = GetChildCount();
+    const int after = before + static_cast<int>(iMade.size());
+    GetBox()->RowsAboutToCome(this, before + 1, after);
+    if (!GetBox()) {
+        return;
     }
+    int position = before;
+    for (auto& child : iMade) {
+        _children.push_back(std::move(child));
+        _children.back()->PlaceBelow(this, ++position);
+    }
+    GetBox()->RowsCame(this, before + 1, after);
 }
 
 void QORNavigInstance::PlaceBelow(QORNavigInstance* iParent, int iPosition) {
@@ -87,7 +140,7 @@ void QORNavigInstance::PlaceBelow(QORNavigInstance* iParent, int iPosition) {
 void QORNavigInstance::Collapse() {
     if (_expanded && GetBox()) {
         _expanded = false;
-        GetBox()->ChildrenChanged(*this);
+        GetBox()->OpenChanged(*this);
     }
 }
 
@@ -135,28 +188,19 @@ void QORNavigInstance::NodeChanged() {
 }
 
 void QORNavigInstance::Remove() {
-    if (!GetBox() || _position == 0) {
-        return;
-    }
-    const QORWatch<QORNavigBox> box = _box;
-    const QORVar<QORNavigInstance> parent(_parent);
-    TakeOut(parent ? parent->_children : box.Get()->_roots, _position);
-    if (!box.Get()) {
-        return;
-    }
-    if (parent) {
-        box.Get()->ChildrenChanged(*parent.Get());
-    } else {
-        box.Get()->RootsChanged();
+    const QORVar<QORNavigInstance> self(this);
+    if (GetBox() && _position > 0) {
+        GetBox()->TakeOut(_parent, _position, _position);
     }
 }
 
-void QORNavigInstance::TakeOut(Instances& ioSiblings, int iPosition) {
+void QORNavigInstance::TakeOut(Instances& ioSiblings, int iFirst, int iLast) {
     // A stack of its own, since a person may have opened any number of levels.
-    Instances leaving;
-    leaving.push_back(std::move(ioSiblings[iPosition - 1]));
-    ioSiblings.erase(ioSiblings.begin() + (iPosition - 1));
-    for (int i = iPosition - 1; i < static_cast<int>(ioSiblings.size()); ++i) {
+    const auto first = ioSiblings.begin() + (iFirst - 1);
+    const auto last = ioSiblings.begin() + iLast;
+    Instances leaving(std::make_move_iterator(first), std::make_move_iterator(last));
+    ioSiblings.erase(first, last);
+    for (int i = iFirst - 1; i < static_cast<int>(ioSiblings.size()); ++i) {
         ioSiblings[i]->_position = i + 1;
     }
     while (!leaving.empty()) {

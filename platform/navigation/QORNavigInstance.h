@@ -4,6 +4,7 @@
 #include "QORPlatform/dialog/QORWatch.h"
 #include "QORPlatform/navigation/QORNavigNode.h"
 
+#include <memory>
 #include <vector>
 
 class QORNavigBox;
@@ -28,18 +29,32 @@ public:
     /// Position among its siblings, from 1; 0 for what isn't in the tree yet, or no longer.
     int GetPosition() const { return _position; }
 
+    /// Position of the tree object in the list of children that the one above gave, or among the roots as they were
+    /// added. Stays the same while siblings go.
+    int GetOrdinal() const { return _ordinal; }
+
     /// What was made below; null outside 1 to the count. Nothing before the instance is opened for the first time.
     int GetChildCount() const { return static_cast<int>(_children.size()); }
     QORNavigInstance* GetChild(int iPosition) const;
+
+    /// The child of an ordinal, null as long as it isn't made.
+    QORNavigInstance* FindChild(int iOrdinal) const;
 
     /// The node, never null, and the implementation of its tree object.
     QORNavigNode* GetNode() const { return _node.Get(); }
     QORBaseUnknown* GetTreeObject() const { return _node->GetTreeObject(); }
 
-    /// Opens the node: at the first time the tree object is asked for its children and a node is made for each, so the
-    /// cost grows with their number. Opening an open one changes nothing. Negative when the depth of the controller
+    /// Opens the node: at the first time the tree object is asked for its children, and a node is made for each up to
+    /// the size of the box's portion. Opening an open one changes nothing. Negative when the depth of the controller
     /// doesn't allow it, and for what is in no tree. What a tree object raises passes through, with nothing changed.
     QORStatus Expand();
+
+    /// Number of tree objects that the node was opened on and that no child was made for yet: as many can come at most.
+    int GetPendingCount() const;
+
+    /// Makes the children for the next iCount of them, and gives the number of children that this has brought. What a
+    /// tree object raises passes through, with nothing changed.
+    int Fetch(int iCount);
 
     /// Closes the node; what was made below is kept.
     void Collapse();
@@ -67,23 +82,29 @@ public:
 
 private:
     friend class QORNavigBox;
+    friend class QORNavigMemory;
     friend class QORNavigNode;
     using Instances = std::vector<QORVar<QORNavigInstance>>;
+    using Objects = std::shared_ptr<const QORListValQORBaseUnknown_var>;
 
-    QORNavigInstance(QORNavigBox& iBox, int iDepth, const QORBaseUnknown_var& iTreeObject);
+    QORNavigInstance(QORNavigBox& iBox, int iDepth, const QORBaseUnknown_var& iTreeObject, int iOrdinal);
 
-    void Fill();
+    bool Fill();
+    Instances MakeNext(const Objects& iObjects, int& ioTried, int iCount);
+    void TakeIn(Instances iMade);
     void PlaceBelow(QORNavigInstance* iParent, int iPosition);
     void NodeChanged();
-    static void TakeOut(Instances& ioSiblings, int iPosition);
+    static void TakeOut(Instances& ioSiblings, int iFirst, int iLast);
 
     QORWatch<QORNavigBox> _box;
     QORNavigInstance* _parent = nullptr;
     Instances _children;
+    Objects _objects;   // below the tree object, null before they were asked for
+    int _triedUpTo = 0; // of them
     QORVar<QORNavigNode> _node;
     int _depth;
+    int _ordinal;
     int _position = 0;
-    bool _filled = false;
     bool _expanded = false;
     bool _marked = false;
 };

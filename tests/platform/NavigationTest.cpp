@@ -155,7 +155,7 @@ TEST_F(Navigator, MakesNodesWhenTheirFatherIsOpenedAndNotBefore) {
     EXPECT_EQ(leaf->asked_, 0);
     EXPECT_EQ(root().Expand(), QOR_OK);
     EXPECT_EQ(drawn(), "A(B pC)");
-    EXPECT_EQ(log_.take(), "open A 2");
+    EXPECT_EQ(log_.take(), "+A 1-2 | open A");
     root().Collapse();
     root().Expand();
     EXPECT_EQ(leaf->asked_, 1) << "what was made is kept";
@@ -163,7 +163,7 @@ TEST_F(Navigator, MakesNodesWhenTheirFatherIsOpenedAndNotBefore) {
     EXPECT_EQ(drawn(), "A(B(D) pC)");
     EXPECT_EQ(root().GetChild(1)->GetChild(1)->GetDepth(), 2);
     EXPECT_EQ(root().GetChild(2)->GetPosition(), 2);
-    EXPECT_EQ(log_.take(), "closed A 2 | open A 2 | open B 1");
+    EXPECT_EQ(log_.take(), "closed A | open A | +B 1-1 | open B");
 }
 
 TEST_F(Navigator, ShowsNodesThatNobodyExtendsPlainly) {
@@ -200,7 +200,7 @@ TEST_F(Navigator, LetsRootsGoWithAllBelowThem) {
     log_.take();
     box_->RemoveAllRoots();
     box_->RemoveAllRoots();
-    EXPECT_EQ(log_.take(), "selected 0 | roots 0");
+    EXPECT_EQ(log_.take(), "-root 1-2 | selected 0");
     EXPECT_EQ(leaf->GetReferenceCount(), 1);
     EXPECT_EQ(held->GetBox(), nullptr);
     EXPECT_EQ(held->GetParent(), nullptr);
@@ -270,6 +270,61 @@ TEST_F(Navigator, SelectsOneOrSeveralAsTheControllerSays) {
     EXPECT_EQ(box_->GetSelection(), std::vector{&b});
 }
 
+TEST_F(Navigator, MakesLongListsInPortions) {
+    QORBaseUnknown noTreeObject;
+    const auto leaf = add("A");
+    leaf->below_ = [&] {
+        return Objects{Leaf::make("B"), &noTreeObject, Leaf::make("C"), Leaf::make("D"), Leaf::make("E")};
+    };
+    box_->SetPortion(2);
+    root().Expand();
+    EXPECT_EQ(drawn(), "A(B C)");
+    EXPECT_EQ(root().GetPendingCount(), 2);
+    EXPECT_EQ(root().GetChild(2)->GetOrdinal(), 3);
+    Leaf::onAnyLabel_ = [] {
+        throw std::runtime_error("model");
+    };
+    EXPECT_THROW(root().Fetch(1), std::runtime_error);
+    EXPECT_EQ(root().Fetch(1), 1);
+    EXPECT_EQ(root().Fetch(9), 1);
+    EXPECT_EQ(root().Fetch(9), 0);
+    EXPECT_EQ(log_.take(), "+A 1-2 | open A | +A 3-3 | +A 4-4");
+    root().GetChild(1)->Remove();
+    EXPECT_EQ(root().FindChild(1), nullptr);
+    EXPECT_EQ(root().FindChild(4), root().GetChild(2));
+    EXPECT_EQ(leaf->asked_, 1);
+}
+
+/// Counts how often a box publishes that other nodes are selected.
+class SelectionReader : public QOREventSubscriber {
+public:
+    explicit SelectionReader(QORNavigBox& box) {
+        AddCallback(this, &box, QORNavigBox::SELECTION_CHANGED(), &SelectionReader::onChange, nullptr);
+    }
+    void onChange(const char*, void*, QORNotification*, void*, long) { ++count_; }
+
+    int count_ = 0;
+};
+
+TEST_F(Navigator, PublishesAWholeSelectionAsOneChange) {
+    const auto leaf = add("A(B C D)");
+    root().Expand();
+    QORNavigInstance& b = *root().GetChild(1);
+    QORNavigInstance& d = *root().GetChild(3);
+    log_.take();
+    const SelectionReader reader(*box_);
+    leaf->text_ = "a";
+    box_->ReportSelection({&b, &root(), &d});
+    EXPECT_EQ(drawn(), "A(B C D*)") << "one node, where more aren't allowed";
+    box_->GetController()->SetExtensionMode(kQORExtensionMultiple);
+    box_->ReportSelection({&b, &root(), &d, nullptr});
+    box_->ReportSelection({&d, &root(), &b});
+    EXPECT_EQ(drawn(), "a*(B* C D*)");
+    EXPECT_EQ(reader.count_, 2);
+    box_->RemoveAllRoots();
+    EXPECT_EQ(reader.count_, 3);
+}
+
 TEST_F(Navigator, GivesNodesTheBehaviourOfTheirExtension) {
     add("A(B C)");
     box_->ReportAction(root());
@@ -289,9 +344,9 @@ TEST_F(Navigator, GivesNodesTheBehaviourOfTheirExtension) {
     element(*root().GetChild(1))->Remove();
     EXPECT_EQ(c.GetPosition(), 1);
     element(root())->ProcessAfterAction();
-    EXPECT_EQ(log_.take(), "node C leaf! | node C leaf | open A 1 | closed A 1");
+    EXPECT_EQ(log_.take(), "node C leaf! | node C leaf | -A 1-1 | closed A");
     element(root())->Remove();
-    EXPECT_EQ(log_.take(), "roots 0");
+    EXPECT_EQ(log_.take(), "-root 1-1");
     EXPECT_EQ(node->GetAssociatedInstance(), nullptr);
 }
 
@@ -323,7 +378,7 @@ TEST_F(Navigator, LeavesEverythingAsItWasWhenATreeObjectRaises) {
 
 TEST_F(Navigator, MayBeEmptiedOrEndWhileATreeObjectIsAsked) {
     const std::pair<std::function<void()>, const char*> deeds[] = {
-        {[this] { box_->RemoveAllRoots(); }, "roots 0"}, {[this] { frame_.reset(); }, "box gone | viewer gone"}};
+        {[this] { box_->RemoveAllRoots(); }, "-root 1-1"}, {[this] { frame_.reset(); }, "box gone | viewer gone"}};
     for (const auto& [deed, told] : deeds) {
         for (const bool atLabel : {true, false}) {
             makeBox();

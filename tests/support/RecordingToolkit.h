@@ -137,13 +137,24 @@ public:
     BoxPeer(Log& log, QORNavigBox& box) : log_(log), box_(box) {}
     ~BoxPeer() override { log_.add("box gone"); }
 
-    void RootsChanged() override { log_.add("roots " + std::to_string(box_.GetRootCount())); }
-    void ChildrenChanged(QORNavigInstance& instance) override {
-        log_.add((instance.IsExpanded() ? "open " : "closed ") + labelOf(instance) + " " +
-                 std::to_string(instance.GetChildCount()));
+    void RowsAboutToCome(QORNavigInstance* parent, int first, int) override { check(parent, first - 1); }
+    void RowsCame(QORNavigInstance* parent, int first, int last) override {
+        check(parent, last);
+        log_.add("+" + labelOf(parent) + range(first, last));
+    }
+    void RowsAboutToGo(QORNavigInstance* parent, int first, int last) override {
+        check(parent, countOf(parent));
+        left_ = countOf(parent) - (last - first + 1);
+    }
+    void RowsGone(QORNavigInstance* parent, int first, int last) override {
+        check(parent, left_);
+        log_.add("-" + labelOf(parent) + range(first, last));
+    }
+    void OpenChanged(QORNavigInstance& row) override {
+        log_.add((row.IsExpanded() ? "open " : "closed ") + labelOf(&row));
     }
     void NodeChanged(QORNavigInstance& instance) override {
-        log_.add("node " + labelOf(instance) + " " + std::string(instance.GetNode()->GetIconName()) +
+        log_.add("node " + labelOf(&instance) + " " + std::string(instance.GetNode()->GetIconName()) +
                  (instance.IsMarked() ? "!" : ""));
     }
     void SelectionChanged() override { log_.add("selected " + std::to_string(box_.GetSelection().size())); }
@@ -153,12 +164,31 @@ public:
         log_.add("settings " + (controller ? std::to_string(controller->GetDepth()) : "none") +
                  (graph && graph->isAnchoredViewpoint() ? " anchored" : ""));
     }
+    void RefillBegins() override { log_.add("refill"); }
+    void RefillEnds() override { log_.add("refilled"); }
+    QORNavigInstance* GetTopRow() override { return topRow; }
+    void ScrollTo(QORNavigInstance& row, Place place) override {
+        log_.add((place == AtTop ? "scrolled up to " : "scrolled to ") + labelOf(&row));
+    }
+
+    QORNavigInstance* topRow = nullptr; ///< what a person sees uppermost
 
 private:
-    static std::string labelOf(const QORNavigInstance& instance) { return std::string(instance.GetNode()->GetLabel()); }
+    static std::string labelOf(const QORNavigInstance* instance) {
+        return instance ? std::string(instance->GetNode()->GetLabel()) : "root";
+    }
+    static std::string range(int first, int last) { return " " + std::to_string(first) + "-" + std::to_string(last); }
+    int countOf(const QORNavigInstance* parent) const { return parent ? parent->GetChildCount() : box_.GetRootCount(); }
+    /// As many rows must be there when the peer is told, before and afterwards.
+    void check(const QORNavigInstance* parent, int count) {
+        if (countOf(parent) != count) {
+            log_.add("told at the wrong time of " + labelOf(parent));
+        }
+    }
 
     Log& log_;
     QORNavigBox& box_;
+    int left_ = 0;
 };
 
 /// The toolkit of everything that is made while it exists. Can refuse to show windows, or viewers.

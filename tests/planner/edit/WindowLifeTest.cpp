@@ -123,7 +123,7 @@ constexpr const char* kLife = R"(  made W
   attached Bom Navig to FrmWindowTag
   layout
   settings -1
-T roots 1
+T +root 1-1
   settings -1 anchored
   <-- VXMFabBomViewer::CreateNavigBox
   selectable  3D Bom Viewer
@@ -148,9 +148,9 @@ T roots 1
   <-- VXMFabBomViewer::Constructor
   --> VXMFabBomViewer::OnActivityCallback
   --> VXMFabBomViewer::UpdateBom
-T roots 0
+T -root 1-1
   --- TRACE 1 ---
-T roots 1
+T +root 1-1
   redraw
   draw
   <-- VXMFabBomViewer::UpdateBom
