@@ -12,12 +12,6 @@ namespace {
 
 constexpr const char* kClass = "VXMBomNavObject";
 
-/// The class can't be created by name.
-QORBaseUnknown* CreateItself() {
-    return nullptr;
-}
-
-const QORMetaClass* const registered = VXMBomNavObject::ClassMeta();
 const QORFillDictionary navigateObject(kClass, IID_QORINavigateObject, CreateTIEQORINavigateObjectVXMBomNavObject);
 const QORFillDictionary navigateObjectPPR(kClass, IID_QORINavigateObjectPPR,
                                           CreateTIEQORINavigateObjectPPRVXMBomNavObject);
@@ -37,9 +31,7 @@ VXMBomNavObject::VXMBomNavObject(DOM_Element& iElement) : _element(iElement) {}
 VXMBomNavObject::~VXMBomNavObject() = default;
 
 QORMetaClass* VXMBomNavObject::ClassMeta() {
-    static QORMetaClass meta(kClass, Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "VXMBomInfrastructure",
-                             CreateItself);
-    return &meta;
+    return QORRegisterClass<VXMBomNavObject>(kClass, "VXMBomInfrastructure");
 }
 
 QORMetaClass* VXMBomNavObject::GetMetaObject() const {

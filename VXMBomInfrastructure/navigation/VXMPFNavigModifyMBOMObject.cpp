@@ -14,21 +14,6 @@ QORBaseUnknown* CreateItself() {
     return new VXMPFNavigModifyMBOMObject();
 }
 
-/// Registers the class, and the second type that it extends.
-class Registration {
-public:
-    Registration()
-        : _meta(kClass, Extension, QORMetaClass::OfBaseUnknown(), kNodeOfPPRObject, "VXMBomInfrastructure",
-                CreateItself) {
-        _meta.SetExtensionOf(fct_FindMetaObject(kNodeOfBomObject));
-    }
-    QORMetaClass* Meta() { return &_meta; }
-
-private:
-    QORMetaClass _meta;
-};
-
-const QORMetaClass* const registered = VXMPFNavigModifyMBOMObject::ClassMeta();
 const QORFillDictionary navigModify(kClass, IID_QORINavigModify, CreateTIEQORINavigModifyVXMPFNavigModifyMBOMObject);
 const QORFillDictionary navigElement(kClass, IID_QORINavigElement, CreateTIEQORINavigElementVXMPFNavigModifyMBOMObject);
 
@@ -39,8 +24,8 @@ VXMPFNavigModifyMBOMObject::VXMPFNavigModifyMBOMObject() = default;
 VXMPFNavigModifyMBOMObject::~VXMPFNavigModifyMBOMObject() = default;
 
 QORMetaClass* VXMPFNavigModifyMBOMObject::ClassMeta() {
-    static Registration registration;
-    return registration.Meta();
+    return QORRegisterClass<VXMPFNavigModifyMBOMObject>(kClass, "VXMBomInfrastructure", &QORMetaClass::OfBaseUnknown,
+                                                        CreateItself, {kNodeOfPPRObject, kNodeOfBomObject});
 }
 
 QORMetaClass* VXMPFNavigModifyMBOMObject::GetMetaObject() const {

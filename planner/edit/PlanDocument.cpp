@@ -37,9 +37,7 @@ PlanDocument::PlanDocument(std::unique_ptr<Plan> plan) : plan_(std::move(plan)) 
 PlanDocument::~PlanDocument() = default;
 
 QORMetaClass* PlanDocument::ClassMeta() {
-    static QORMetaClass meta("QORProcess", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "planner",
-                             nullptr);
-    return &meta;
+    return QORRegisterClass<PlanDocument>("QORProcess", "planner");
 }
 
 QORMetaClass* PlanDocument::GetMetaObject() const {

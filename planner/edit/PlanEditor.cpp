@@ -3,7 +3,7 @@
 #include "planner/edit/Checks.h"
 #include "planner/model/Contents.h"
 
-#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
+#include "QORPlatform/notification/QORSPPActivityNotification.h"
 
 #include <exception>
 

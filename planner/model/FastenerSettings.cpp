@@ -47,7 +47,8 @@ QORBaseUnknown* createControl() {
 } // namespace
 
 FastenerSettings::FastenerSettings()
-    : class_(kComponent, Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "planner", createControl) {}
+    : class_(kComponent, ENUMTypeOfClass::Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "planner",
+             createControl) {}
 
 QORSettingStore& FastenerSettings::store() {
     return QORSettingStore::Of(kComponent);

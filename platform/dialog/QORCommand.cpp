@@ -9,8 +9,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORCommand::ClassMeta();
-
 constexpr const char* kSentEvent = "QORCommandNotification";
 
 } // namespace
@@ -27,9 +25,7 @@ QORCommand::~QORCommand() {
 }
 
 QORMetaClass* QORCommand::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QORCommand", Implementation, QOREventSubscriber::ClassMeta(), "QORNull",
-                                               "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORCommand>("QORCommand", kQORPlatform, &QOREventSubscriber::ClassMeta);
 }
 
 QORMetaClass* QORCommand::GetMetaObject() const {

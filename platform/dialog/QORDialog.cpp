@@ -5,12 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORDialog::ClassMeta();
-
-} // namespace
-
 QORDialog::QORDialog(QORDialog* iParent, const QORString& iName) : QORCommand(iName, iParent), _parent(iParent) {
     if (_parent) {
         _parent->_children.push_back(this);
@@ -23,9 +17,7 @@ QORDialog::~QORDialog() {
 }
 
 QORMetaClass* QORDialog::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORDialog", Implementation, QORCommand::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORDialog>("QORDialog", kQORPlatform, &QORCommand::ClassMeta);
 }
 
 QORMetaClass* QORDialog::GetMetaObject() const {

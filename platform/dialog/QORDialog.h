@@ -1,7 +1,18 @@
 #pragma once
 
-#include "QORPlatform/dialog/DRECT.h"
 #include "QORPlatform/dialog/QORCommand.h"
+
+/// Place and size of a dialog object in pixels; a size of 0 means that there is none yet.
+struct DRECT {
+    int x = 0;
+    int y = 0;
+    int dx = 0; ///< width
+    int dy = 0; ///< height
+
+    friend bool operator==(const DRECT& iLeft, const DRECT& iRight) {
+        return iLeft.x == iRight.x && iLeft.y == iRight.y && iLeft.dx == iRight.dx && iLeft.dy == iRight.dy;
+    }
+};
 
 /// A dialog object with a place on the screen, a parent and children. Children end with their parent, the last made
 /// first; who holds a reference of his own on a child keeps it, without a parent, until he lets go.

@@ -5,12 +5,6 @@
 
 #include <algorithm>
 
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORDlgFrame::ClassMeta();
-
-} // namespace
-
 QORDlgFrame::QORDlgFrame(QORDialog* iParent, const QORString& iName, int iStyle)
     : QORDialog(iParent, iName), _style(iStyle) {}
 
@@ -19,9 +13,7 @@ QORDlgFrame::~QORDlgFrame() {
 }
 
 QORMetaClass* QORDlgFrame::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORDlgFrame", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORDlgFrame>("QORDlgFrame", kQORPlatform, &QORDialog::ClassMeta);
 }
 
 QORMetaClass* QORDlgFrame::GetMetaObject() const {

@@ -2,23 +2,27 @@
 
 #include "QORPlatform/framework/QORMetaClass.h"
 
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORDlgWindow::ClassMeta();
-
-} // namespace
-
 QORDlgWindow::QORDlgWindow(QORDialog* iParent, const QORString& iName)
     : QORDialog(iParent, iName), _windSizeNotification(QORVar<QORNotification>::Adopt(new QORNotification())) {}
 
 QORDlgWindow::~QORDlgWindow() = default;
 
 QORMetaClass* QORDlgWindow::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORDlgWindow", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORDlgWindow>("QORDlgWindow", kQORPlatform, &QORDialog::ClassMeta);
 }
 
 QORMetaClass* QORDlgWindow::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QORDlgDialog::QORDlgDialog(QORDialog* iParent, const QORString& iName) : QORDlgWindow(iParent, iName) {}
+
+QORDlgDialog::~QORDlgDialog() = default;
+
+QORMetaClass* QORDlgDialog::ClassMeta() {
+    return QORRegisterClass<QORDlgDialog>("QORDlgDialog", kQORPlatform, &QORDlgWindow::ClassMeta);
+}
+
+QORMetaClass* QORDlgDialog::GetMetaObject() const {
     return ClassMeta();
 }

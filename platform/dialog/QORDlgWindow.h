@@ -23,3 +23,13 @@ protected:
 private:
     QORVar<QORNotification> _windSizeNotification;
 };
+
+/// A window that a dialog is built in.
+class QOR_EXPORT QORDlgDialog : public QORDlgWindow {
+public:
+    QORDlgDialog(QORDialog* iParent, const QORString& iName);
+    ~QORDlgDialog() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+};

@@ -4,8 +4,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORFrmEditor::ClassMeta();
-
 QORFrmEditor* currentEditor = nullptr;
 
 } // namespace
@@ -24,9 +22,7 @@ QORFrmEditor::~QORFrmEditor() {
 }
 
 QORMetaClass* QORFrmEditor::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QORFrmEditor", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull",
-                                               "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORFrmEditor>("QORFrmEditor", kQORPlatform);
 }
 
 QORMetaClass* QORFrmEditor::GetMetaObject() const {

@@ -5,8 +5,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORFrmWindow::ClassMeta();
-
 QORFrmWindowToolkit* windowToolkit = nullptr;
 
 } // namespace
@@ -28,9 +26,7 @@ QORFrmWindow::~QORFrmWindow() {
 }
 
 QORMetaClass* QORFrmWindow::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORFrmWindow", Implementation, QORDlgDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORFrmWindow>("QORFrmWindow", kQORPlatform, &QORDlgDialog::ClassMeta);
 }
 
 QORMetaClass* QORFrmWindow::GetMetaObject() const {

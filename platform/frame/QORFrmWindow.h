@@ -1,7 +1,7 @@
 #pragma once
 
-#include "QORPlatform/dialog/QORDlgDialog.h"
 #include "QORPlatform/dialog/QORDlgFrame.h"
+#include "QORPlatform/dialog/QORDlgWindow.h"
 #include "QORPlatform/frame/QORFrmEditor.h"
 #include "QORPlatform/text/QORUnicodeString.h"
 #include "QORPlatform/toolkit/QORFrmWindowPeer.h"

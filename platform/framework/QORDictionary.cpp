@@ -54,8 +54,8 @@ QORMetaClass* QORDictionary::FindOrPlace(const std::string& iName) {
         return known;
     }
     auto& placed = _placeholders[iName];
-    placed = std::make_unique<QORMetaClass>(iName.c_str(), Placeholder, QORMetaClass::OfBaseUnknown(), "QORNull", "",
-                                            nullptr);
+    placed = std::make_unique<QORMetaClass>(iName.c_str(), ENUMTypeOfClass::Placeholder, QORMetaClass::OfBaseUnknown(),
+                                            "QORNull", "", nullptr);
     return placed.get();
 }
 

@@ -7,7 +7,7 @@
 QORMetaClass::QORMetaClass(const char* iName, ENUMTypeOfClass iKind, QORMetaClass* iBase, const char* iExtended,
                            const char* iModule, Creator iCreate)
     : _name(iName), _kind(iKind), _base(iBase), _module(iModule), _create(iCreate) {
-    if (iKind == Placeholder) {
+    if (iKind == ENUMTypeOfClass::Placeholder) {
         return;
     }
     QORDictionary::Get().Register(*this);
@@ -17,7 +17,7 @@ QORMetaClass::QORMetaClass(const char* iName, ENUMTypeOfClass iKind, QORMetaClas
 }
 
 QORMetaClass::~QORMetaClass() {
-    if (_kind != Placeholder) {
+    if (_kind != ENUMTypeOfClass::Placeholder) {
         QORDictionary::Get().Unregister(*this);
     }
 }
@@ -39,10 +39,27 @@ bool QORMetaClass::IsAKindOf(const char* iClass) const {
 QORMetaClass* QORMetaClass::OfBaseUnknown() {
     // Never destroyed: any object may still be asked for its class while the process ends.
     static auto* const meta =
-        new QORMetaClass("QORBaseUnknown", Implementation, nullptr, "QORNull", "QORPlatform", nullptr);
+        new QORMetaClass("QORBaseUnknown", ENUMTypeOfClass::Implementation, nullptr, "QORNull", "QORPlatform", nullptr);
     return meta;
 }
 
 QORMetaClass* fct_FindMetaObject(const char* iName) {
     return QORDictionary::Get().FindOrPlace(iName);
+}
+
+QORClassEntry::QORClassEntry(const char* iName, const QORModule& iModule, QORMetaClass* iBase,
+                             QORMetaClass::Creator iCreate, std::initializer_list<const char*> iExtended)
+    : _meta(new QORMetaClass(iName,
+                             iExtended.size() == 0 ? ENUMTypeOfClass::Implementation : ENUMTypeOfClass::Extension,
+                             iBase, "QORNull", iModule.name, iCreate)),
+      _stays(iModule.stays) {
+    for (const char* type : iExtended) {
+        _meta->SetExtensionOf(fct_FindMetaObject(type));
+    }
+}
+
+QORClassEntry::~QORClassEntry() {
+    if (!_stays) {
+        delete _meta;
+    }
 }

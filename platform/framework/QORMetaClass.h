@@ -3,13 +3,14 @@
 #include "QORPlatform/framework/QORInterfaceID.h"
 #include "QORPlatform/text/QORExport.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
 class QORBaseUnknown;
 
 /// What a class is to the framework.
-enum ENUMTypeOfClass {
+enum class ENUMTypeOfClass {
     Placeholder = 0,    ///< a name that was asked for and isn't defined: a late type, or a class still to come
     Implementation = 1, ///< a plain implementation
     Extension = 2       ///< adds interfaces to objects of another type
@@ -64,3 +65,51 @@ private:
 /// placeholder goes when its name is defined, and when a class or a navigator leaves and nothing extends it: don't keep
 /// the pointer, nor its name, ask again.
 QOR_EXPORT QORMetaClass* fct_FindMetaObject(const char* iName);
+
+/// The library that a class belongs to, by name. One that stays loaded to the end of the process keeps the entries of
+/// its classes, since objects may still be asked for their class while the process ends.
+struct QORModule {
+    constexpr QORModule(const char* iName, bool iStays = false) : name(iName), stays(iStays) {}
+
+    const char* name;
+    bool stays;
+};
+
+inline constexpr QORModule kQORPlatform{"QORPlatform", true};
+
+/// Owner of the meta class that QORRegisterClass makes.
+class QOR_EXPORT QORClassEntry {
+public:
+    QORClassEntry(const char* iName, const QORModule& iModule, QORMetaClass* iBase, QORMetaClass::Creator iCreate,
+                  std::initializer_list<const char*> iExtended);
+
+    /// Takes the class out of the dictionary, unless its library stays.
+    ~QORClassEntry();
+    QORClassEntry(const QORClassEntry&) = delete;
+    QORClassEntry& operator=(const QORClassEntry&) = delete;
+
+    QORMetaClass* GetMeta() const { return _meta; }
+
+private:
+    QORMetaClass* _meta;
+    bool _stays;
+};
+
+/// Asks T for its meta class when the library of T loads.
+template <class T>
+inline const QORMetaClass* const kQORRegisteredAtLoad = T::ClassMeta();
+
+/// The registration of class T, written once, in T::ClassMeta:
+///
+///     QORMetaClass* Door::ClassMeta() { return QORRegisterClass<Door>("Door", "Doors", &Opening::ClassMeta); }
+///
+/// gives the meta class, which is made at the first call or when the library loads, and goes with the library. iBase
+/// gives the meta class of the base, iCreate is as in QORMetaClass; a class that extends types is an extension.
+template <class T>
+QORMetaClass*
+QORRegisterClass(const char* iName, const QORModule& iModule, QORMetaClass* (*iBase)() = &QORMetaClass::OfBaseUnknown,
+                 QORMetaClass::Creator iCreate = nullptr, std::initializer_list<const char*> iExtended = {}) {
+    static_cast<void>(&kQORRegisteredAtLoad<T>);
+    static const QORClassEntry entry(iName, iModule, iBase(), iCreate, iExtended);
+    return entry.GetMeta();
+}

@@ -3,7 +3,8 @@
 #include "QORPlatform/framework/QORBaseUnknown.h"
 #include "QORPlatform/framework/QORNullVarError.h"
 
-#include <concepts>
+#include <cstddef>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -23,8 +24,8 @@ public:
     QORVar(const QORVar& iOther) : _object(iOther._object) { Count(); }
     QORVar(QORVar&& iOther) noexcept : _object(std::exchange(iOther._object, nullptr)) {}
 
-    template <class U>
-    QORVar(U* iObject) requires(!std::same_as<T, U> && requires { iObject->AddRef(); }) : _object(Cast(iObject)) {}
+    template <class U, class = std::enable_if_t<!std::is_same_v<T, U>, decltype(std::declval<U&>().AddRef())>>
+    QORVar(U* iObject) : _object(Cast(iObject)) {}
     template <class U>
     QORVar(const QORVar<U>& iOther) : _object(Cast(iOther.Get())) {}
 
@@ -75,13 +76,15 @@ private:
         }
     }
 
-    [[noreturn]] static void RaiseNull() {
-        if constexpr (requires { T::InterfaceID(); }) {
-            ThrowErrorNullVar(T::InterfaceID().GetName());
-        } else {
-            ThrowErrorNullVar("QORBaseUnknown");
-        }
+    template <class U>
+    static auto NameOf(int) -> decltype(U::InterfaceID().GetName()) {
+        return U::InterfaceID().GetName();
     }
+    template <class U>
+    static std::string_view NameOf(long) {
+        return "QORBaseUnknown";
+    }
+    [[noreturn]] static void RaiseNull() { ThrowErrorNullVar(NameOf<T>(0)); }
 
     void Count() {
         if (_object) {

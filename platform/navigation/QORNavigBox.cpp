@@ -12,8 +12,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORNavigBox::ClassMeta();
-
 QORNavigBoxToolkit* boxToolkit = nullptr;
 
 bool IsTreeObject(const QORBaseUnknown_var& iObject) {
@@ -45,9 +43,7 @@ QORNavigBox::~QORNavigBox() {
 }
 
 QORMetaClass* QORNavigBox::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORNavigBox", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORNavigBox>("QORNavigBox", kQORPlatform, &QORDialog::ClassMeta);
 }
 
 QORMetaClass* QORNavigBox::GetMetaObject() const {

@@ -7,8 +7,8 @@
 #include "QORPlatform/navigation/QORNavigInstance.h"
 #include "QORPlatform/navigation/QORNavigRows.h"
 #include "QORPlatform/toolkit/QORNavigBoxPeer.h"
-#include "QORPlatform/visualization/QOR2DViewpoint.h"
 #include "QORPlatform/visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 
 #include <limits>
 #include <memory>
@@ -105,7 +105,7 @@ public:
     static const char* SELECTION_CHANGED() { return "QORNavigBoxSelectionChanged"; }
 
     /// Whether an object is shown anywhere in the box.
-    bool IsShown(const QORBaseUnknown_var& iObject) const { return _shown.contains(iObject.Impl()); }
+    bool IsShown(const QORBaseUnknown_var& iObject) const { return _shown.count(iObject.Impl()) != 0; }
 
     /// What a person does; the node's extension is told afterwards. Nothing happens for what has left the tree
     /// meanwhile. iExtend adds the node to the selection, or takes it out of it, where the controller allows more than

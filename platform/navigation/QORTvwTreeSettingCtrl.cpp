@@ -11,8 +11,6 @@ namespace {
 constexpr const char* kOwnComponent = "QORTvwTreeSettingCtrl";
 constexpr const char* kTreeFlag = "TreeFlag";
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORTvwTreeSettingCtrl::ClassMeta();
-
 std::string& Component() {
     static auto* const component = new std::string(kOwnComponent);
     return *component;
@@ -25,10 +23,8 @@ QORTvwTreeSettingCtrl::QORTvwTreeSettingCtrl() = default;
 QORTvwTreeSettingCtrl::~QORTvwTreeSettingCtrl() = default;
 
 QORMetaClass* QORTvwTreeSettingCtrl::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass(kOwnComponent, Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "QORPlatform",
-                         []() -> QORBaseUnknown* { return new QORTvwTreeSettingCtrl(); });
-    return meta;
+    return QORRegisterClass<QORTvwTreeSettingCtrl>(kOwnComponent, kQORPlatform, &QORMetaClass::OfBaseUnknown,
+                                                   []() -> QORBaseUnknown* { return new QORTvwTreeSettingCtrl(); });
 }
 
 QORMetaClass* QORTvwTreeSettingCtrl::GetMetaObject() const {

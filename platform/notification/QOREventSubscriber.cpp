@@ -10,8 +10,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QOREventSubscriber::ClassMeta();
-
 long nextHandle = 1;
 
 } // namespace
@@ -37,9 +35,7 @@ QOREventSubscriber::~QOREventSubscriber() {
 }
 
 QORMetaClass* QOREventSubscriber::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QOREventSubscriber", Implementation, QORMetaClass::OfBaseUnknown(),
-                                               "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QOREventSubscriber>("QOREventSubscriber", kQORPlatform);
 }
 
 QORMetaClass* QOREventSubscriber::GetMetaObject() const {

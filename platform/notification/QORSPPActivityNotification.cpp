@@ -1,21 +1,24 @@
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
 
 #include "QORPlatform/framework/QORMetaClass.h"
-
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORSPPActivityNotification::ClassMeta();
-
-} // namespace
+#include "QORPlatform/framework/QORVar.h"
 
 QORSPPActivityNotification::~QORSPPActivityNotification() = default;
 
 QORMetaClass* QORSPPActivityNotification::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QORSPPActivityNotification", Implementation,
-                                               QORNotification::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORSPPActivityNotification>("QORSPPActivityNotification", kQORPlatform,
+                                                        &QORNotification::ClassMeta);
 }
 
 QORMetaClass* QORSPPActivityNotification::GetMetaObject() const {
     return ClassMeta();
+}
+
+const char* QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE() {
+    return "DISPATCHER_SPP_VIEWS_CHANGE";
+}
+
+void QORSPPActivityNotificationDispatcher::Dispatch(QOREventSubscriber& iPublisher, int iKind) {
+    const auto notification = QORVar<QORSPPActivityNotification>::Adopt(new QORSPPActivityNotification(iKind));
+    iPublisher.Publish(DISPATCHER_SPP_VIEWS_CHANGE(), notification.Get());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QORPlatform/notification/QORNotification.h"
+#include "QORPlatform/notification/QOREventSubscriber.h"
 
 /// Tells of a change in a process plan. The kind is the plan's own number for what has changed.
 class QOR_EXPORT QORSPPActivityNotification : public QORNotification {
@@ -15,4 +15,15 @@ public:
 
 private:
     int _kind;
+};
+
+/// How changes of a process plan are told: as one event, of the publisher that the plan's root activity gives.
+class QOR_EXPORT QORSPPActivityNotificationDispatcher {
+public:
+    /// Name of the event that views of a plan subscribe to.
+    static const char* DISPATCHER_SPP_VIEWS_CHANGE();
+
+    /// Publishes a QORSPPActivityNotification of that kind as this event of iPublisher. What a subscriber throws comes
+    /// out when all have been told.
+    static void Dispatch(QOREventSubscriber& iPublisher, int iKind);
 };

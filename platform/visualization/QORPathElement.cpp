@@ -2,12 +2,6 @@
 
 #include "QORPlatform/framework/QORMetaClass.h"
 
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORPathElement::ClassMeta();
-
-} // namespace
-
 QORPathElement::QORPathElement(QORBaseUnknown* iObject) {
     AddChildElement(iObject, 0);
 }
@@ -15,9 +9,7 @@ QORPathElement::QORPathElement(QORBaseUnknown* iObject) {
 QORPathElement::~QORPathElement() = default;
 
 QORMetaClass* QORPathElement::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QORPathElement", Implementation, QORMetaClass::OfBaseUnknown(),
-                                               "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORPathElement>("QORPathElement", kQORPlatform);
 }
 
 QORMetaClass* QORPathElement::GetMetaObject() const {

@@ -1,14 +1,12 @@
 #include "QORPlatform/visualization/QORViewer.h"
 
 #include "QORPlatform/framework/QORMetaClass.h"
-#include "QORPlatform/visualization/QOR3DViewpoint.h"
+#include "QORPlatform/visualization/QORViewpoint.h"
 #include "QORPlatform/visualization/QORVisManager.h"
 
 #include <algorithm>
 
 namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORViewer::ClassMeta();
 
 QORViewerToolkit* viewerToolkit = nullptr;
 
@@ -28,9 +26,7 @@ QORViewer::~QORViewer() {
 }
 
 QORMetaClass* QORViewer::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORViewer", Implementation, QORDialog::ClassMeta(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORViewer>("QORViewer", kQORPlatform, &QORDialog::ClassMeta);
 }
 
 QORMetaClass* QORViewer::GetMetaObject() const {
@@ -139,4 +135,38 @@ void QORViewer::ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject) {
     const auto path = QORVar<QORPathElement>::Adopt(new QORPathElement(iObject));
     picked->Empty();
     picked->AddElement(path.Get());
+}
+
+QORNavigation2DViewer::QORNavigation2DViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth,
+                                             int iHeight, int iOptions)
+    : QORViewer(iParent, iName, iStyle, iWidth, iHeight, iOptions) {
+    MakePeer();
+}
+
+QORNavigation2DViewer::~QORNavigation2DViewer() = default;
+
+QORMetaClass* QORNavigation2DViewer::ClassMeta() {
+    return QORRegisterClass<QORNavigation2DViewer>("QORNavigation2DViewer", kQORPlatform, &QORViewer::ClassMeta);
+}
+
+QORMetaClass* QORNavigation2DViewer::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QORNavigation3DViewer::QORNavigation3DViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth,
+                                             int iHeight, int iOptions)
+    : QORViewer(iParent, iName, iStyle, iWidth, iHeight, iOptions) {
+    if (MakePeer()) {
+        MakeMain3DViewpoint();
+    }
+}
+
+QORNavigation3DViewer::~QORNavigation3DViewer() = default;
+
+QORMetaClass* QORNavigation3DViewer::ClassMeta() {
+    return QORRegisterClass<QORNavigation3DViewer>("QORNavigation3DViewer", kQORPlatform, &QORViewer::ClassMeta);
+}
+
+QORMetaClass* QORNavigation3DViewer::GetMetaObject() const {
+    return ClassMeta();
 }

@@ -96,3 +96,27 @@ private:
     std::unique_ptr<QORViewerPeer> _peer;
     QORIRedrawEventTie<QORViewer> _redrawEvent{this};
 };
+
+/// A viewer onto a plane. Has no viewpoint before one is added.
+class QOR_EXPORT QORNavigation2DViewer : public QORViewer {
+public:
+    /// Style and options are of the values above; width and height in pixels.
+    QORNavigation2DViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth, int iHeight,
+                          int iOptions);
+    ~QORNavigation2DViewer() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+};
+
+/// A viewer into space, with a main viewpoint from the beginning unless the toolkit can't show it.
+class QOR_EXPORT QORNavigation3DViewer : public QORViewer {
+public:
+    /// Style and options are of the values above; width and height in pixels.
+    QORNavigation3DViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth, int iHeight,
+                          int iOptions);
+    ~QORNavigation3DViewer() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+};

@@ -3,22 +3,38 @@
 #include "QORPlatform/framework/QORMetaClass.h"
 #include "QORPlatform/visualization/QORVisManager.h"
 
-namespace {
-
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORViewpoint::ClassMeta();
-
-} // namespace
-
 QORViewpoint::~QORViewpoint() {
     QORVisManager::GetVisManager()->ForgetViewpoint(*this);
 }
 
 QORMetaClass* QORViewpoint::ClassMeta() {
-    static auto* const meta = new QORMetaClass("QORViewpoint", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull",
-                                               "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORViewpoint>("QORViewpoint", kQORPlatform);
 }
 
 QORMetaClass* QORViewpoint::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QOR2DViewpoint::QOR2DViewpoint() = default;
+
+QOR2DViewpoint::~QOR2DViewpoint() = default;
+
+QORMetaClass* QOR2DViewpoint::ClassMeta() {
+    return QORRegisterClass<QOR2DViewpoint>("QOR2DViewpoint", kQORPlatform, &QORViewpoint::ClassMeta);
+}
+
+QORMetaClass* QOR2DViewpoint::GetMetaObject() const {
+    return ClassMeta();
+}
+
+QOR3DViewpoint::QOR3DViewpoint() = default;
+
+QOR3DViewpoint::~QOR3DViewpoint() = default;
+
+QORMetaClass* QOR3DViewpoint::ClassMeta() {
+    return QORRegisterClass<QOR3DViewpoint>("QOR3DViewpoint", kQORPlatform, &QORViewpoint::ClassMeta);
+}
+
+QORMetaClass* QOR3DViewpoint::GetMetaObject() const {
     return ClassMeta();
 }

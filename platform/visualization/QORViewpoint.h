@@ -26,3 +26,23 @@ private:
 
     QORViewer* _viewer = nullptr;
 };
+
+/// Looks at a plane, of a tree's graph say.
+class QOR_EXPORT QOR2DViewpoint : public QORViewpoint {
+public:
+    QOR2DViewpoint();
+    ~QOR2DViewpoint() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+};
+
+/// Looks at a scene in space.
+class QOR_EXPORT QOR3DViewpoint : public QORViewpoint {
+public:
+    QOR3DViewpoint();
+    ~QOR3DViewpoint() override;
+
+    static QORMetaClass* ClassMeta();
+    QORMetaClass* GetMetaObject() const override;
+};

@@ -7,8 +7,6 @@
 
 namespace {
 
-[[maybe_unused]] const QORMetaClass* const kRegistered = QORXSO::ClassMeta();
-
 QORBaseUnknown_var NamedBy(const QORPathElement* iPath) {
     return iPath ? QORBaseUnknown_var(iPath->GetElement(iPath->GetSize()).Impl()) : QORBaseUnknown_var();
 }
@@ -22,9 +20,7 @@ QORXSO::~QORXSO() {
 }
 
 QORMetaClass* QORXSO::ClassMeta() {
-    static auto* const meta =
-        new QORMetaClass("QORXSO", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "QORPlatform", nullptr);
-    return meta;
+    return QORRegisterClass<QORXSO>("QORXSO", kQORPlatform);
 }
 
 QORMetaClass* QORXSO::GetMetaObject() const {

@@ -62,7 +62,7 @@ private:
 
     static inline Settings* current_ = nullptr;
     QORMetaClass class_{"VXMMVWMBOMViewerSettingCtrl",
-                        Implementation,
+                        ENUMTypeOfClass::Implementation,
                         QORMetaClass::OfBaseUnknown(),
                         "QORNull",
                         "test",

@@ -1,6 +1,6 @@
 #include "QORPlatform/dialog/QORDialogLoop.h"
-#include "QORPlatform/dialog/QORDlgDialog.h"
 #include "QORPlatform/dialog/QORDlgFrame.h"
+#include "QORPlatform/dialog/QORDlgWindow.h"
 #include "QORPlatform/toolkit/QORLoopPeer.h"
 #include "support/RecordingToolkit.h"
 

@@ -24,7 +24,8 @@ QORBaseUnknown* makeSpeaker(QORBaseUnknown* implementation) {
 struct Meta : QORMetaClass {
     explicit Meta(const char* name, Creator create = nullptr, const char* extended = "QORNull",
                   QORMetaClass* base = OfBaseUnknown())
-        : QORMetaClass(name, *extended == 'Q' ? Implementation : Extension, base, extended, "Tests", create) {}
+        : QORMetaClass(name, *extended == 'Q' ? ENUMTypeOfClass::Implementation : ENUMTypeOfClass::Extension, base,
+                       extended, "Tests", create) {}
 };
 
 /// An object of whatever class a test gives it.
@@ -104,7 +105,7 @@ TEST(Dictionary, TakesADefinitionInPlaceOfAPlaceholder) {
     const Meta voice("TestVoice", &Voice::create, "TestLater");
     const QORFillDictionary entry("TestVoice", Loud::InterfaceID(), &makeSpeaker<Voice>);
     QORDictionary::Get().DropUnusedPlaceholders();
-    EXPECT_EQ(derived.GetBase()->GetKind(), Placeholder) << "kept, since it is a base";
+    EXPECT_EQ(derived.GetBase()->GetKind(), ENUMTypeOfClass::Placeholder) << "kept, since it is a base";
     const Meta later("TestLater");
     EXPECT_EQ(fct_FindMetaObject("TestLater"), &later);
     EXPECT_EQ(derived.GetBase(), &later);

@@ -1,6 +1,6 @@
 #include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/frame/QORFrmWindow.h"
-#include "QORPlatform/visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 #include "support/RecordingToolkit.h"
 
 #include <gtest/gtest.h>

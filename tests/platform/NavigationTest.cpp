@@ -4,7 +4,7 @@
 #include "QORPlatform/navigation/QORINavigateObject.h"
 #include "QORPlatform/navigation/QORINavigateObjectPPR.h"
 #include "QORPlatform/navigation/QORNodeExtension.h"
-#include "QORPlatform/visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 #include "support/RecordingToolkit.h"
 
 #include <gtest/gtest.h>
@@ -31,8 +31,8 @@ public:
     static QORVar<Leaf> make(const std::string& text) { return QORVar<Leaf>::Adopt(new Leaf(text)); }
 
     QORMetaClass* GetMetaObject() const override {
-        static QORMetaClass meta("TestLeaf", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests",
-                                 nullptr);
+        static QORMetaClass meta("TestLeaf", ENUMTypeOfClass::Implementation, QORMetaClass::OfBaseUnknown(), "QORNull",
+                                 "Tests", nullptr);
         return extended_ ? &meta : QORMetaClass::OfBaseUnknown();
     }
     QORStatus QueryInterface(const QORInterfaceID& interface, void** out) override {
@@ -100,8 +100,8 @@ QORBaseUnknown* makeTie(QORBaseUnknown* implementation) {
     return new Tie(static_cast<LeafNode*>(implementation));
 }
 
-const QORMetaClass leafNodeMeta("TestLeafNode", Extension, QORMetaClass::OfBaseUnknown(), "TestLeaf_node", "Tests",
-                                []() -> QORBaseUnknown* { return new LeafNode(); });
+const QORMetaClass leafNodeMeta("TestLeafNode", ENUMTypeOfClass::Extension, QORMetaClass::OfBaseUnknown(),
+                                "TestLeaf_node", "Tests", []() -> QORBaseUnknown* { return new LeafNode(); });
 const QORFillDictionary modifyEntry("TestLeafNode", IID_QORINavigModify, &makeTie<QORINavigModifyTie<LeafNode>>);
 const QORFillDictionary elementEntry("TestLeafNode", IID_QORINavigElement, &makeTie<QORINavigElementTie<LeafNode>>);
 

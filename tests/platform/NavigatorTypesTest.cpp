@@ -52,8 +52,8 @@ public:
 };
 
 TEST_F(TreeSettings, MayBeAHostsOwnWithNothingToHandOut) {
-    const QORMetaClass own("SilentSettings", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "Tests",
-                           []() -> QORBaseUnknown* { return new SilentSettings(); });
+    const QORMetaClass own("SilentSettings", ENUMTypeOfClass::Implementation, QORMetaClass::OfBaseUnknown(), "QORNull",
+                           "Tests", []() -> QORBaseUnknown* { return new SilentSettings(); });
     QORUseTvwTreeSettingCtrl("SilentSettings");
     EXPECT_EQ(ask(), QOR_OK);
     EXPECT_EQ(asked_, nullptr);

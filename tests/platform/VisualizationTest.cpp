@@ -1,7 +1,6 @@
-#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
 #include "QORPlatform/visualization/QORI3DGeoVisu.h"
-#include "QORPlatform/visualization/QORNavigation2DViewer.h"
-#include "QORPlatform/visualization/QORNavigation3DViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
+#include "QORPlatform/visualization/QORViewpointEditor.h"
 #include "support/RecordingToolkit.h"
 
 #include <gtest/gtest.h>

@@ -6,8 +6,7 @@
 #include "QORPlatform/framework/QORProcessServices.h"
 #include "QORPlatform/navigation/QORINavigateObjectPPR.h"
 #include "QORPlatform/navigation/QORNavigController.h"
-#include "QORPlatform/visualization/QORNavigation2DViewer.h"
-#include "QORPlatform/visualization/QORNavigation3DViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 #include "QORPlatform/visualization/QORVisManager.h"
 #include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
@@ -23,13 +22,6 @@ constexpr const char* kSource = "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabB
 constexpr int kWidth = 150;
 constexpr int kHeight = 200;
 constexpr int kPixelsPerCharacter = 10;
-
-/// The class can't be created by name.
-QORBaseUnknown* CreateItself() {
-    return nullptr;
-}
-
-const QORMetaClass* const registered = VXMFabBomViewer::ClassMeta();
 
 /// A step of the window's end that asks the model: one that raises mustn't keep the rest from ending.
 template <class Step>
@@ -96,9 +88,7 @@ VXMFabBomViewer::~VXMFabBomViewer() {
 }
 
 QORMetaClass* VXMFabBomViewer::ClassMeta() {
-    static QORMetaClass meta("VXMFabBomViewer", Implementation, QORFrmWindow::ClassMeta(), "QORNull",
-                             "VXMBomInfrastructure", CreateItself);
-    return &meta;
+    return QORRegisterClass<VXMFabBomViewer>("VXMFabBomViewer", "VXMBomInfrastructure", &QORFrmWindow::ClassMeta);
 }
 
 QORMetaClass* VXMFabBomViewer::GetMetaObject() const {

@@ -4,7 +4,6 @@
 #include "QORPlatform/frame/QORInit.h"
 #include "QORPlatform/navigation/QORNavigBox.h"
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
-#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
 #include "QORPlatform/visualization/QORIRedrawEvent.h"
 #include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
 #include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"

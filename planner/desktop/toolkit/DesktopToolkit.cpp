@@ -6,7 +6,7 @@
 
 #include "QORPlatform/frame/QORFrmWindow.h"
 #include "QORPlatform/navigation/QORNavigBox.h"
-#include "QORPlatform/visualization/QORNavigation2DViewer.h"
+#include "QORPlatform/visualization/QORViewer.h"
 
 #include <utility>
 

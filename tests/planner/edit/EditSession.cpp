@@ -4,7 +4,6 @@
 #include "support/BomText.h"
 
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
-#include "QORPlatform/notification/QORSPPActivityNotificationDispatcher.h"
 #include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 #include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 

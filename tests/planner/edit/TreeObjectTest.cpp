@@ -89,7 +89,7 @@ TEST(TreeObject, AnswersAllThreeInterfacesOfTheNavigator) {
     const auto object = objectOf(session);
     EXPECT_STREQ(object->IsA(), "VXMBomNavObject");
     EXPECT_EQ(VXMBomNavObject::ClassMeta()->CreateItself(), nullptr);
-    EXPECT_EQ(VXMBomNavObject::ClassMeta()->GetKind(), 1);
+    EXPECT_EQ(static_cast<int>(VXMBomNavObject::ClassMeta()->GetKind()), 1);
     const QORINavigateObjectPPR_var ppr(object);
     ASSERT_TRUE(ppr);
     const std::unique_ptr<QORListValQORUnicodeString> labels(ppr->GetIdentificators());
@@ -150,7 +150,7 @@ TEST(TreeNode, DoesNothingAfterAnActionAndBehavesLikeAnyOtherApartFromThat) {
 TEST(TreeNode, HasAnExtensionThatIsMadeByName) {
     QORMetaClass& meta = *VXMPFNavigModifyMBOMObject::ClassMeta();
     EXPECT_STREQ(meta.GetName(), "VXMPFNavigModifyMBOMObject");
-    EXPECT_EQ(meta.GetKind(), 2);
+    EXPECT_EQ(static_cast<int>(meta.GetKind()), 2);
     EXPECT_EQ(meta.GetExtendedTypes(), (std::vector<std::string>{"VXMPFNavObjectPPR_node", "VXMBomNavObject_node"}));
     const auto made = QORBaseUnknown_var::Adopt(meta.CreateItself());
     auto* const extension = dynamic_cast<VXMPFNavigModifyMBOMObject*>(made.Get());
@@ -165,8 +165,8 @@ TEST(TreeNode, HasAnExtensionThatIsMadeByName) {
 class OtherTreeObject : public QORBaseUnknown {
 public:
     QORMetaClass* GetMetaObject() const override {
-        static QORMetaClass meta("VXMPFNavObjectPPR", Implementation, QORMetaClass::OfBaseUnknown(), "QORNull",
-                                 "WindowTests", nullptr);
+        static QORMetaClass meta("VXMPFNavObjectPPR", ENUMTypeOfClass::Implementation, QORMetaClass::OfBaseUnknown(),
+                                 "QORNull", "WindowTests", nullptr);
         return &meta;
     }
     QORStatus QueryInterface(const QORInterfaceID& interface, void** found) override {

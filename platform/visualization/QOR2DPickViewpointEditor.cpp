@@ -1,6 +1,0 @@
-#include "QORPlatform/visualization/QOR2DPickViewpointEditor.h"
-
-QOR2DPickViewpointEditor::QOR2DPickViewpointEditor(const QORString& iName, QOR2DViewpoint* iViewpoint, int iMode)
-    : QORViewpointEditor(iName, iViewpoint), _mode(iMode) {}
-
-QOR2DPickViewpointEditor::~QOR2DPickViewpointEditor() = default;
