@@ -271,10 +271,10 @@ TEST_F(Navigator, SelectsOneOrSeveralAsTheControllerSays) {
 }
 
 TEST_F(Navigator, MakesLongListsInPortions) {
-    QORBaseUnknown noTreeObject;
+    const auto noTreeObject = QORBaseUnknown_var::Adopt(new QORBaseUnknown());
     const auto leaf = add("A");
-    leaf->below_ = [&] {
-        return Objects{Leaf::make("B"), &noTreeObject, Leaf::make("C"), Leaf::make("D"), Leaf::make("E")};
+    leaf->below_ = [noTreeObject] {
+        return Objects{Leaf::make("B"), noTreeObject, Leaf::make("C"), Leaf::make("D"), Leaf::make("E")};
     };
     box_->SetPortion(2);
     root().Expand();
