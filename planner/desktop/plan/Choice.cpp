@@ -33,7 +33,7 @@ void Choice::choose(const std::vector<ModelObject*>& objects) {
 void Choice::dropLeft() {
     std::vector<ModelObject*> left;
     for (const auto& object : objects_) {
-        if (object->isPlaced()) {
+        if (object->standsInPlan()) {
             left.push_back(object.Get());
         }
     }

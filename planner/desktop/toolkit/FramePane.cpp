@@ -20,7 +20,7 @@ FramePane::FramePane(QORFrmWindow& window) : window_(&window), splitter_(new QSp
     splitter_->setChildrenCollapsible(false);
 }
 
-void FramePane::setTree(QTreeView* tree) {
+void FramePane::setTree(TreeView* tree) {
     tree_ = tree;
     splitter_->insertWidget(0, tree);
     splitter_->setStretchFactor(0, kTreeShare);

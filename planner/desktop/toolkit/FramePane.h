@@ -1,10 +1,11 @@
 #pragma once
 
+#include "planner/desktop/toolkit/TreeView.h"
+
 #include "QORPlatform/dialog/QORWatch.h"
 #include "QORPlatform/frame/QORFrmWindow.h"
 
 #include <QPointer>
-#include <QTreeView>
 #include <QWidget>
 
 class QSplitter;
@@ -21,10 +22,10 @@ public:
 
     /// The window, null when it has ended.
     QORFrmWindow* window() const { return window_.Get(); }
-    QTreeView* tree() const { return tree_; }
+    TreeView* tree() const { return tree_; }
     QWidget* view() const { return view_; }
 
-    void setTree(QTreeView* tree);
+    void setTree(TreeView* tree);
     void setView(QWidget* view);
 
     /// The window's heading as it fits.
@@ -47,7 +48,7 @@ protected:
 private:
     QORWatch<QORFrmWindow> window_;
     QSplitter* splitter_;
-    QPointer<QTreeView> tree_;
+    QPointer<TreeView> tree_;
     QPointer<QWidget> view_;
 };
 

@@ -7,19 +7,23 @@ class QORNavigInstance;
 
 namespace planner::desktop {
 
-/// The nodes of a tree box, made as far as a person opens them.
+/// The rows of a tree box, as far as they were made. The box's peer tells it of rows that come and go.
 class TreeModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
     explicit TreeModel(QORNavigBox& box) : box_(box) {}
 
-    QORNavigInstance* instanceAt(const QModelIndex& index) const;
-    QModelIndex indexOf(const QORNavigInstance& instance) const;
+    /// The row behind an index, null for an invalid one; the index of a row, invalid for null.
+    QORNavigInstance* rowAt(const QModelIndex& index) const;
+    QModelIndex indexOf(const QORNavigInstance* row) const;
 
-    void reset();
-    void nodeChanged(QORNavigInstance& instance);
-    void childrenChanged(QORNavigInstance& instance);
+    // What the peer is told, positions from 1.
+    void aboutToCome(const QORNavigInstance* above, int first, int last);
+    void came() { endInsertRows(); }
+    void aboutToGo(const QORNavigInstance* above, int first, int last);
+    void gone() { endRemoveRows(); }
+    void nodeChanged(const QORNavigInstance& row);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
@@ -27,8 +31,6 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     bool hasChildren(const QModelIndex& parent = {}) const override;
-    bool canFetchMore(const QModelIndex& parent) const override;
-    void fetchMore(const QModelIndex& parent) override;
 
 private:
     QORNavigBox& box_;

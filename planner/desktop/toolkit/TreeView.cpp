@@ -1,0 +1,136 @@
+#include "planner/desktop/toolkit/TreeView.h"
+
+#include "planner/desktop/toolkit/TreeModel.h"
+
+#include "QORPlatform/navigation/QORNavigBox.h"
+
+#include <QMetaObject>
+#include <QScopedValueRollback>
+
+#include <deque>
+
+namespace planner::desktop {
+
+namespace {
+
+/// Rows that a portion brings: a few screens.
+constexpr int kPortion = 200;
+
+} // namespace
+
+TreeView::TreeView(QORNavigBox& box, TreeModel& model, QWidget* parent) : QTreeView(parent), box_(&box), model_(model) {
+    box.SetPortion(kPortion);
+    setModel(&model);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    followSettings();
+    connect(this, &QTreeView::expanded, this, &TreeView::reportOpen);
+    connect(this, &QTreeView::collapsed, this, &TreeView::reportClosed);
+    connect(this, &QTreeView::activated, this, [this](const QModelIndex& index) {
+        if (box_) {
+            box_->ReportAction(*model_.rowAt(index));
+        }
+    });
+}
+
+void TreeView::release() {
+    box_ = nullptr;
+    setModel(nullptr);
+}
+
+void TreeView::followSettings() {
+    const QORNavigController* const controller = box_ ? box_->GetController() : nullptr;
+    const bool several = controller && controller->GetExtensionMode() == kQORExtensionMultiple;
+    setSelectionMode(several ? ExtendedSelection : SingleSelection);
+}
+
+void TreeView::reportOpen(const QModelIndex& index) {
+    if (box_) {
+        box_->ReportExpand(*model_.rowAt(index));
+    }
+}
+
+void TreeView::reportClosed(const QModelIndex& index) {
+    if (box_) {
+        box_->ReportCollapse(*model_.rowAt(index));
+    }
+}
+
+void TreeView::showSelection() {
+    if (!box_ || showing_) {
+        return;
+    }
+    const QScopedValueRollback<bool> showing(showing_, true);
+    QItemSelection selection;
+    for (const QORNavigInstance* row : box_->GetSelection()) {
+        const QModelIndex index = model_.indexOf(row);
+        selection.select(index, index);
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    if (!box_ || showing_) {
+        return;
+    }
+    {
+        const QScopedValueRollback<bool> showing(showing_, true);
+        std::vector<QORNavigInstance*> rows;
+        for (const QModelIndex& index : selectedIndexes()) {
+            rows.push_back(model_.rowAt(index));
+        }
+        box_->ReportSelection(rows);
+    }
+    Q_EMIT picked();
+}
+
+void TreeView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (!fetching_) {
+        fetching_ = true;
+        QMetaObject::invokeMethod(this, &TreeView::fetchNear, Qt::QueuedConnection);
+    }
+}
+
+/// Brings further rows of every list whose last one so far is in sight.
+void TreeView::fetchNear() {
+    fetching_ = false;
+    std::vector<QORVar<QORNavigInstance>> ending;
+    for (QModelIndex index = indexAt({1, 1});
+         box_ && index.isValid() && visualRect(index).top() <= viewport()->height(); index = indexBelow(index)) {
+        QORNavigInstance* const above = model_.rowAt(index)->GetParent();
+        if (above && above->GetPendingCount() > 0 && !model_.index(index.row() + 1, 0, index.parent()).isValid()) {
+            ending.emplace_back(above);
+        }
+    }
+    for (const auto& row : ending) {
+        row->Fetch(kPortion);
+    }
+}
+
+bool TreeView::openAll(int most) {
+    std::deque<QORVar<QORNavigInstance>> open;
+    for (int position = 1; box_ && position <= box_->GetRootCount(); ++position) {
+        open.emplace_back(box_->GetRoot(position));
+    }
+    int count = static_cast<int>(open.size());
+    setUpdatesEnabled(false);
+    while (!open.empty() && count < most) {
+        const auto row = open.front();
+        open.pop_front();
+        if (row->MayExpand()) {
+            setExpanded(model_.indexOf(row.Get()), true);
+            row->Fetch(most - count);
+        }
+        for (int position = 1; position <= row->GetChildCount(); ++position) {
+            open.emplace_back(row->GetChild(position));
+        }
+        count += row->GetChildCount();
+    }
+    setUpdatesEnabled(true);
+    return open.empty();
+}
+
+} // namespace planner::desktop
