@@ -69,9 +69,9 @@ public:
     QORNavigInstance* GetRoot(int iPosition) const;
 
     /// Opens and ends a refill, in which the roots are taken out and others come. At its end what stands for the same
-    /// as before (see QORNavigRows; without them only the same tree objects do) is opened, selected and marked as it
-    /// was, and, where the graph viewer is anchored, scrolled to where it was seen. In between nobody is told of
-    /// selections. A refill in a refill is part of it.
+    /// as before is opened, selected and marked as it was, and, where the graph viewer is anchored, scrolled to where
+    /// it was seen; rows say what that is, and a box without them begins anew. In between nobody is told of selections.
+    /// A refill in a refill is part of it.
     void BeginRefill();
     void EndRefill();
 

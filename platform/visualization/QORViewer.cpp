@@ -1,5 +1,6 @@
 #include "QORPlatform/visualization/QORViewer.h"
 
+#include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/framework/QORMetaClass.h"
 #include "QORPlatform/visualization/QORViewpoint.h"
 #include "QORPlatform/visualization/QORVisManager.h"
@@ -69,6 +70,21 @@ QORStatus QORViewer::AddViewpoint(QORViewpoint* iViewpoint, int iPlacement) {
     return QOR_OK;
 }
 
+QORStatus QORViewer::RemoveViewpoint(QORViewpoint* iViewpoint) {
+    const Place* const place = FindPlace(iViewpoint);
+    if (!iViewpoint || !place || iViewpoint == _main3DViewpoint) {
+        return QOR_FAILED;
+    }
+    const Place removed = *place;
+    QORVisManager::GetVisManager()->ForgetViewpoint(*iViewpoint);
+    _viewpoints.erase(_viewpoints.begin() + (place - _viewpoints.data()));
+    iViewpoint->_viewer = nullptr;
+    if (_peer) {
+        _peer->ViewpointRemoved(*iViewpoint);
+    }
+    return QOR_OK;
+}
+
 QORStatus QORViewer::SetViewpointEditor(QORViewpoint* iViewpoint, QORViewpointEditor* iEditor) {
     const auto place = std::find_if(_viewpoints.begin(), _viewpoints.end(),
                                     [&](const Place& iPlace) { return iPlace.viewpoint.Get() == iViewpoint; });
@@ -122,19 +138,56 @@ void QORViewer::Draw() {
 }
 
 void QORViewer::Redraw() {
-    if (_peer) {
-        _peer->Redraw();
+    if (!_peer) {
+        return;
+    }
+    const QORVar<QORViewer> self(this);
+    for (const Place& place : std::vector(_viewpoints)) {
+        QORVisManager::GetVisManager()->CheckChanges(*place.viewpoint.Get());
+    }
+    _peer->Redraw();
+}
+
+void QORViewer::FitAll(QORViewpoint& iViewpoint) {
+    if (_peer && FindPlace(&iViewpoint)) {
+        _peer->FitAll(iViewpoint);
     }
 }
 
-void QORViewer::ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject) {
+void QORViewer::ReportHover(QORViewpoint& iViewpoint, QORBaseUnknown* iObject) {
+    const QORHandling handling(this);
+    if (const QORVar<QORXSO> hovered(QORVisManager::GetVisManager()->GetHSO(iViewpoint)); hovered) {
+        hovered->SetContent({iObject});
+    }
+}
+
+void QORViewer::ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject, bool iExtend) {
+    const QORHandling handling(this);
     const QORVar<QORXSO> picked(QORVisManager::GetVisManager()->GetPSO(iViewpoint));
     if (!picked) {
         return;
     }
+    if (!iExtend) {
+        picked->SetContent({iObject});
+        return;
+    }
     const auto path = QORVar<QORPathElement>::Adopt(new QORPathElement(iObject));
-    picked->Empty();
-    picked->AddElement(path.Get());
+    if (picked->AddElement(path.Get()) < 0) {
+        picked->RemoveElement(path.Get());
+    }
+}
+
+void QORViewer::ReportPicks(QORViewpoint& iViewpoint, const std::vector<QORBaseUnknown*>& iObjects, bool iExtend) {
+    const QORHandling handling(this);
+    const QORVar<QORXSO> picked(QORVisManager::GetVisManager()->GetPSO(iViewpoint));
+    if (!picked) {
+        return;
+    }
+    if (iExtend) {
+        picked->AddElements(iObjects);
+    } else {
+        picked->SetContent(iObjects);
+    }
 }
 
 QORNavigation2DViewer::QORNavigation2DViewer(QORDialog* iParent, const QORString& iName, int iStyle, int iWidth,

@@ -40,6 +40,10 @@ public:
     /// reference is the caller's then.
     QORStatus AddViewpoint(QORViewpoint* iViewpoint, int iPlacement);
 
+    /// Lets a viewpoint go, with all that is shown in it. Negative for null, for one that isn't here, and for the main
+    /// viewpoint of space, which stays.
+    QORStatus RemoveViewpoint(QORViewpoint* iViewpoint);
+
     /// Takes an editor over for a viewpoint of this viewer, in place of the one that it had. Negative for null and for
     /// a viewpoint that isn't here; the reference is the caller's then.
     QORStatus SetViewpointEditor(QORViewpoint* iViewpoint, QORViewpointEditor* iEditor);
@@ -56,13 +60,24 @@ public:
     void GetGraphicSize(float& oWidth, float& oHeight) const;
     void SetGraphicSize(float iWidth, float iHeight);
 
-    /// Draws what has changed, or everything anew; nothing to do without a peer.
+    /// Draws what has changed, or everything anew. Redraw first asks all that is shown whether it has changed, see
+    /// QORVisManager::CheckChanges.
     void Draw();
     void Redraw();
 
-    /// A person has picked an object in a viewpoint, or nothing (null): it becomes the content of the PSO that is tied
-    /// to the viewpoint.
-    void ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject);
+    /// Moves the camera of a viewpoint so that all that is shown in it is seen.
+    void FitAll(QORViewpoint& iViewpoint);
+
+    /// The pointer of a person is over an object in a viewpoint, or over nothing (null): that becomes the content of
+    /// the HSO that is tied to the viewpoint.
+    void ReportHover(QORViewpoint& iViewpoint, QORBaseUnknown* iObject);
+
+    /// A person has picked an object in a viewpoint, or nothing (null): that becomes the content of the PSO that is
+    /// tied to the viewpoint. iExtend adds it instead, or takes it out when it is in the set.
+    void ReportPick(QORViewpoint& iViewpoint, QORBaseUnknown* iObject, bool iExtend = false);
+
+    /// The same for all that a person has drawn a frame around, at once; iExtend adds what isn't in the set.
+    void ReportPicks(QORViewpoint& iViewpoint, const std::vector<QORBaseUnknown*>& iObjects, bool iExtend);
 
     /// The toolkit's side, null where there is none.
     QORViewerPeer* GetPeer() const { return _peer.get(); }

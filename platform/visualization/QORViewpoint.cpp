@@ -1,6 +1,7 @@
 #include "QORPlatform/visualization/QORViewpoint.h"
 
 #include "QORPlatform/framework/QORMetaClass.h"
+#include "QORPlatform/visualization/QORViewer.h"
 #include "QORPlatform/visualization/QORVisManager.h"
 
 QORViewpoint::~QORViewpoint() {
@@ -37,4 +38,11 @@ QORMetaClass* QOR3DViewpoint::ClassMeta() {
 
 QORMetaClass* QOR3DViewpoint::GetMetaObject() const {
     return ClassMeta();
+}
+
+void QOR3DViewpoint::SetCamera(const QORCamera& iCamera) {
+    _camera = iCamera;
+    if (GetViewer() && GetViewer()->GetPeer()) {
+        GetViewer()->GetPeer()->CameraChanged(*this);
+    }
 }

@@ -37,7 +37,16 @@ public:
     QORMetaClass* GetMetaObject() const override;
 };
 
-/// Looks at a scene in space.
+/// From where a scene in space is looked at, in millimetres.
+struct QORCamera {
+    double eye[3] = {1000, -1000, 1000};
+    double target[3] = {0, 0, 0}; ///< what the eye looks at, in the middle of the picture
+    double up[3] = {0, 0, 1};     ///< points upwards in the picture; any length but 0
+    double height = 1000;         ///< of what is seen at the target, from the lower to the upper edge
+    bool isPerspective = false;   ///< what is farther away is smaller
+};
+
+/// Looks at a scene in space, through a camera of its own.
 class QOR_EXPORT QOR3DViewpoint : public QORViewpoint {
 public:
     QOR3DViewpoint();
@@ -45,4 +54,15 @@ public:
 
     static QORMetaClass* ClassMeta();
     QORMetaClass* GetMetaObject() const override;
+
+    const QORCamera& GetCamera() const { return _camera; }
+
+    /// Moves the camera; the viewer's peer follows.
+    void SetCamera(const QORCamera& iCamera);
+
+    /// A person has moved the camera, or the peer has: it is there already.
+    void ReportCamera(const QORCamera& iCamera) { _camera = iCamera; }
+
+private:
+    QORCamera _camera;
 };

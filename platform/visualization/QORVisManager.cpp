@@ -1,8 +1,13 @@
 #include "QORPlatform/visualization/QORVisManager.h"
 
+#include "QORPlatform/visualization/QORI3DGeoVisu.h"
 #include "QORPlatform/visualization/QORViewer.h"
 
+#include <algorithm>
+#include <functional>
 #include <iterator>
+#include <string>
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -16,6 +21,27 @@ bool AnswersAll(const QORBaseUnknown_var& iObject, const QORListInterfaceID& iIn
         static_cast<QORBaseUnknown*>(answered)->Release();
     }
     return true;
+}
+
+/// What tells shape and place of an object from others of the same object.
+std::size_t PrintOf(QORBaseUnknown& iObject) {
+    const QORI3DGeoVisu_var visible(&iObject);
+    QORGeoShape shape;
+    QORGeoPlace place;
+    if (visible) {
+        visible->GetShape(shape);
+        visible->GetPlace(place);
+    }
+    std::size_t print = shape.kind;
+    const auto add = [&print](const auto& iValue) {
+        print = print * 1099511628211U + std::hash<std::decay_t<decltype(iValue)>>()(iValue);
+    };
+    for (const double* numbers : {shape.sizes, place.moved, place.turned}) {
+        std::for_each_n(numbers, 3, add);
+    }
+    add(std::string(shape.file));
+    add(std::string(shape.part));
+    return print;
 }
 
 QORViewerPeer* PeerOf(const QORViewpoint& iViewpoint) {
@@ -62,16 +88,37 @@ QORStatus QORVisManager::AttachTo(const QORPathElement* iPath, QORViewpoint* iVi
         return QOR_NO_INTERFACE;
     }
     const Path path = iPath->GetImplementations();
-    View& view = _views[iViewpoint];
-    if (view.places.contains(path)) {
+    if (const View* const known = FindView(*iViewpoint); known && known->places.contains(path)) {
         return QOR_OK;
     }
+    const std::size_t print = PrintOf(*path.back()); // asks the model, which may raise
+    View& view = _views[iViewpoint];
     view.showings.emplace_back(path.begin(), path.end());
     view.places.emplace(path, std::prev(view.showings.end()));
-    if (QORViewerPeer* const peer = PeerOf(*iViewpoint)) {
-        peer->ObjectShown(*iViewpoint, *path.back());
+    if (++view.paths[path.back()] == 1) {
+        Enter(*path.back(), *iViewpoint, print);
     }
     return QOR_OK;
+}
+
+/// The first path that shows the object in the viewpoint has come.
+void QORVisManager::Enter(QORBaseUnknown& iObject, QORViewpoint& iViewpoint, std::size_t iPrint) {
+    Looks& looks = _looks[&iObject];
+    if (looks.views++ == 0) {
+        looks.revision = ++_lastRevision;
+        looks.print = iPrint;
+    }
+    if (QORViewerPeer* const peer = PeerOf(iViewpoint)) {
+        peer->ObjectShown(iViewpoint, iObject);
+    }
+}
+
+/// The last path that shows the object in a viewpoint has gone.
+void QORVisManager::Leave(QORBaseUnknown& iObject) {
+    const auto place = _looks.find(&iObject);
+    if (--place->second.views == 0) {
+        _looks.erase(place);
+    }
 }
 
 QORStatus QORVisManager::DetachFrom(const QORPathElement* iPath, QORViewpoint* iViewpoint, const QORListInterfaceID&,
@@ -85,11 +132,18 @@ QORStatus QORVisManager::DetachFrom(const QORPathElement* iPath, QORViewpoint* i
         return QOR_FAILED;
     }
     const Showing ended = std::move(*place->second);
+    QORBaseUnknown& object = *ended.back().Get();
     view->second.showings.erase(place->second);
     view->second.places.erase(place);
+    const auto paths = view->second.paths.find(&object);
+    const bool wasLast = --paths->second == 0;
+    if (wasLast) {
+        view->second.paths.erase(paths);
+        Leave(object);
+    }
     DropIfEmpty(*iViewpoint);
-    if (QORViewerPeer* const peer = PeerOf(*iViewpoint)) {
-        peer->ObjectHidden(*iViewpoint, *ended.back().Get());
+    if (QORViewerPeer* const peer = wasLast ? PeerOf(*iViewpoint) : nullptr) {
+        peer->ObjectHidden(*iViewpoint, object);
     }
     return QOR_OK;
 }
@@ -150,6 +204,41 @@ int QORVisManager::GetShownCount(const QORViewpoint& iViewpoint) const {
     return view ? static_cast<int>(view->showings.size()) : 0;
 }
 
+long QORVisManager::GetRevision(QORBaseUnknown* iObject) const {
+    const auto place = _looks.find(iObject ? iObject->GetImpl(0) : nullptr);
+    return place == _looks.end() ? 0 : place->second.revision;
+}
+
+void QORVisManager::ObjectChanged(QORBaseUnknown* iObject) {
+    const QORBaseUnknown_var object(iObject ? iObject->GetImpl(0) : nullptr);
+    const auto place = _looks.find(object.Get());
+    if (place == _looks.end()) {
+        return;
+    }
+    place->second.print = PrintOf(*object.Get());
+    const long revision = place->second.revision = ++_lastRevision;
+    std::vector<QORViewpoint*> showing;
+    for (const auto& [viewpoint, view] : _views) {
+        if (view.paths.contains(object.Get())) {
+            showing.push_back(viewpoint);
+        }
+    }
+    for (QORViewpoint* viewpoint : showing) {
+        if (QORViewerPeer* const peer = PeerOf(*viewpoint)) {
+            peer->ObjectChanged(*viewpoint, *object.Get(), revision);
+        }
+    }
+}
+
+void QORVisManager::CheckChanges(QORViewpoint& iViewpoint) {
+    for (const QORBaseUnknown_var& object : GetShown(iViewpoint)) {
+        const auto place = _looks.find(object.Get());
+        if (place != _looks.end() && place->second.print != PrintOf(*object.Get())) {
+            ObjectChanged(object.Get());
+        }
+    }
+}
+
 bool QORVisManager::IsShown(QORBaseUnknown* iObject, const QORViewpoint& iViewpoint) const {
     const View* const view = FindView(iViewpoint);
     return iObject && view && view->places.contains(Path{iObject->GetImpl(0)});
@@ -175,6 +264,11 @@ void QORVisManager::DropIfEmpty(const QORViewpoint& iViewpoint) {
 void QORVisManager::ForgetViewpoint(QORViewpoint& iViewpoint) {
     // Taken out first: with the last references objects end, which may come back here.
     const auto forgotten = _views.extract(&iViewpoint);
+    if (!forgotten.empty()) {
+        for (const auto& [object, paths] : forgotten.mapped().paths) {
+            Leave(*object);
+        }
+    }
 }
 
 std::vector<QORViewpoint*> QORVisManager::ViewpointsWith(const QORXSO& iSet) const {

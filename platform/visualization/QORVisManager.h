@@ -51,6 +51,19 @@ public:
     QORListValQORBaseUnknown_var GetShown(const QORViewpoint& iViewpoint) const;
     int GetShownCount(const QORViewpoint& iViewpoint) const;
 
+    /// Number that stands for shape and place of an object as they are now, for whoever makes something from them:
+    /// another one, and one that no object had before, since the object is shown and each time a change was told. 0 for
+    /// what is shown nowhere.
+    long GetRevision(QORBaseUnknown* iObject) const;
+
+    /// Shape or place of an object are others, or what they refer to is: the viewers that show it are told, with the
+    /// new revision.
+    void ObjectChanged(QORBaseUnknown* iObject);
+
+    /// Tells the same of all objects shown in a viewpoint that give another shape or place than when they were last
+    /// looked at. Costs in proportion to their number.
+    void CheckChanges(QORViewpoint& iViewpoint);
+
     /// Whether the object is shown in the viewpoint by a path of its own, without others outside it.
     bool IsShown(QORBaseUnknown* iObject, const QORViewpoint& iViewpoint) const;
 
@@ -71,11 +84,19 @@ private:
     struct View {
         std::list<Showing> showings;
         std::unordered_map<Path, std::list<Showing>::iterator, PathHash> places;
+        std::unordered_map<QORBaseUnknown*, int> paths; // number of them by the object that they name
         QORXSO* sets[2] = {nullptr, nullptr};
+    };
+    struct Looks {
+        int views; // that show the object
+        long revision;
+        std::size_t print; // of shape and place
     };
     enum SetKind { HSO, PSO };
 
     QORVisManager() = default;
+    void Enter(QORBaseUnknown& iObject, QORViewpoint& iViewpoint, std::size_t iPrint);
+    void Leave(QORBaseUnknown& iObject);
     const View* FindView(const QORViewpoint& iViewpoint) const;
     void Tie(QORViewpoint& iViewpoint, SetKind iKind, QORXSO* iSet);
     QORStatus Untie(QORViewpoint* iViewpoint, SetKind iKind);
@@ -87,4 +108,6 @@ private:
     std::vector<QORViewpoint*> ViewpointsWith(const QORXSO& iSet) const;
 
     std::unordered_map<QORViewpoint*, View> _views;
+    std::unordered_map<const QORBaseUnknown*, Looks> _looks;
+    long _lastRevision = 0;
 };

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "QORPlatform/notification/QOREventSubscriber.h"
 #include "QORPlatform/visualization/QORPathElement.h"
 
+#include <unordered_map>
+
 /// Set of selected objects, in the order in which they were added. What the visualization manager ties to viewpoints,
-/// which then show these objects marked. Objects go by their implementation; none is in the set twice.
-class QOR_EXPORT QORXSO : public QORBaseUnknown, private QORCounted<QORXSO> {
+/// which then show these objects marked. Objects go by their implementation; none is in the set twice. The set
+/// publishes the event CHANGED whenever its content is another; each operation costs in proportion to what it is given,
+/// and is told once.
+class QOR_EXPORT QORXSO : public QOREventSubscriber, private QORCounted<QORXSO> {
 public:
     static constexpr std::string_view kCountName = "QORXSO";
 
@@ -20,9 +25,16 @@ public:
     /// Takes the object that the path names out. Negative when it isn't in the set.
     QORStatus RemoveElement(const QORPathElement* iPath);
 
-    void Empty();
+    /// Adds those of the objects that aren't in the set; or makes them the whole content. Null is left out.
+    void AddElements(const std::vector<QORBaseUnknown*>& iObjects);
+    void SetContent(const std::vector<QORBaseUnknown*>& iObjects);
 
-    int GetSize() const { return static_cast<int>(_objects.size()); }
+    void Empty() { SetContent({}); }
+
+    int GetSize() const { return static_cast<int>(_places.size()); }
+
+    /// Name of the event, published with no notification.
+    static const char* CHANGED() { return "QORXSOChanged"; }
 
     /// The implementation at iPosition, a null handle outside 1 to the size.
     QORBaseUnknown_var GetElement(int iPosition) const;
@@ -30,5 +42,10 @@ public:
     bool Contains(QORBaseUnknown* iObject) const;
 
 private:
-    std::vector<QORBaseUnknown_var> _objects;
+    bool Append(QORBaseUnknown* iObject);
+    void CloseGaps() const;
+    void TellChange();
+
+    mutable std::vector<QORBaseUnknown_var> _objects; // null where an object was taken out
+    mutable std::unordered_map<const QORBaseUnknown*, std::size_t> _places;
 };

@@ -23,8 +23,13 @@ public:
         const QORStatus own = QORAnswer(interface, out, visu_);
         return own < 0 ? QORBaseUnknown::QueryInterface(interface, out) : own;
     }
-    static QORStatus GetShape(QORGeoShape&) { return QOR_FAILED; }
+    QORStatus GetShape(QORGeoShape& shape) const {
+        shape.sizes[0] = size_;
+        return QOR_OK;
+    }
     static QORStatus GetPlace(QORGeoPlace&) { return QOR_FAILED; }
+
+    double size_ = 1;
 
 private:
     QORI3DGeoVisuTie<Block> visu_{this};
@@ -115,6 +120,8 @@ TEST_F(Showing, TellsPathsApartByAllThatIsOnThem) {
     EXPECT_EQ(detach(&two_), QOR_OK);
     EXPECT_EQ(shown(), "2 ");
     EXPECT_FALSE(manager_.IsShown(&two_, *viewpoint_));
+    EXPECT_EQ(manager_.DetachFrom(inside.Get(), viewpoint_, interfaces_, 0), QOR_OK);
+    EXPECT_EQ(log_.take(), "shown 2 | hidden 2") << "the peer hears of objects, not of paths";
 }
 
 TEST_F(Showing, RefusesWhatItCannotShowOrTie) {
@@ -170,6 +177,86 @@ TEST_F(Showing, PutsWhatWasPickedIntoThePSO) {
     EXPECT_TRUE(set_.Contains(&two_));
     viewer_->ReportPick(*viewpoint_, nullptr);
     EXPECT_EQ(set_.GetSize(), 0);
+}
+
+TEST_F(Showing, ExtendsWhatWasPickedAndKeepsWhatIsHovered) {
+    auto* const hovered = new QORXSO();
+    manager_.AttachPSOTo(&set_, viewpoint_);
+    manager_.AttachHSOTo(hovered, viewpoint_);
+    log_.take();
+    viewer_->ReportHover(*viewpoint_, &one_);
+    viewer_->ReportHover(*viewpoint_, &one_);
+    viewer_->ReportPicks(*viewpoint_, {&one_, &two_, &one_, nullptr}, false);
+    viewer_->ReportPick(*viewpoint_, &one_, true);
+    viewer_->ReportPick(*viewpoint_, &one_, true);
+    EXPECT_EQ(set_.GetElement(1), QORBaseUnknown_var(&two_));
+    EXPECT_EQ(set_.GetElement(2), QORBaseUnknown_var(&one_));
+    viewer_->ReportPicks(*viewpoint_, {&one_}, true);
+    viewer_->ReportPicks(*viewpoint_, {&one_}, false);
+    EXPECT_EQ(log_.take(), "sets 1 0 | sets 1 2 | sets 1 1 | sets 1 2 | sets 1 1") << "once for each change";
+    viewer_->ReportHover(*viewpoint_, nullptr);
+    EXPECT_EQ(hovered->GetSize(), 0);
+    hovered->Release();
+}
+
+TEST_F(Showing, PublishesChangesOfASet) {
+    class Reader : public QOREventSubscriber {
+    public:
+        void onChange(const char*, void*, QORNotification*, void*, long) { ++count_; }
+        int count_ = 0;
+    } reader;
+    AddCallback(&reader, &set_, QORXSO::CHANGED(), &Reader::onChange, nullptr);
+    std::vector<Block> blocks(100000);
+    std::vector<QORBaseUnknown*> all;
+    for (Block& block : blocks) {
+        all.push_back(&block);
+    }
+    set_.SetContent(all);
+    set_.SetContent(all);
+    EXPECT_EQ(reader.count_, 1);
+    for (Block& block : blocks) {
+        ASSERT_EQ(set_.RemoveElement(pathTo(&block).Get()), QOR_OK);
+    }
+    EXPECT_EQ(reader.count_, 100001);
+    EXPECT_EQ(set_.GetElement(1), nullptr);
+}
+
+TEST_F(Showing, TellsEachChangeOfAnObjectOnceWithANewRevision) {
+    EXPECT_EQ(manager_.GetRevision(&one_), 0);
+    attach(&one_);
+    attach(&two_);
+    auto* const other = new QORNavigation3DViewer(stage_.get(), "O", 0, 10, 10, kQORViewerPlain);
+    attach(pathTo(&one_).Get(), other->GetMain3DViewpoint(), other);
+    log_.take();
+    const long before = manager_.GetRevision(&one_);
+    viewer_->Redraw();
+    EXPECT_EQ(log_.take(), "redraw") << "nothing is made anew";
+    one_.size_ = 2;
+    viewer_->Redraw();
+    EXPECT_EQ(log_.take(), "changed 1 | changed 1 | redraw") << "in each viewpoint that shows it";
+    other->Redraw();
+    EXPECT_EQ(log_.take(), "redraw");
+    EXPECT_GT(manager_.GetRevision(&one_), before);
+    detach(&two_);
+    manager_.ObjectChanged(&two_);
+    EXPECT_EQ(log_.take(), "hidden 2");
+}
+
+TEST_F(Showing, LooksThroughACameraPerViewpoint) {
+    auto* const second = new QOR3DViewpoint();
+    viewer_->AddViewpoint(second, kQORPlacementBehind);
+    QORCamera camera;
+    camera.eye[0] = 7;
+    second->SetCamera(camera);
+    camera.eye[0] = 8;
+    second->ReportCamera(camera);
+    viewer_->FitAll(*second);
+    EXPECT_EQ(second->GetCamera().eye[0], 8);
+    attach(pathTo(&one_).Get(), second, viewer_);
+    EXPECT_LT(viewer_->RemoveViewpoint(viewpoint_), 0) << "the main one stays";
+    EXPECT_EQ(viewer_->RemoveViewpoint(second), QOR_OK);
+    EXPECT_EQ(one_.GetReferenceCount(), 1);
+    EXPECT_EQ(log_.take(), "QOR3DViewpoint added at 0 | camera at 7 | fit | shown 1 | QOR3DViewpoint removed");
 }
 
 TEST_F(Showing, LetsObjectsGoWithTheViewer) {

@@ -116,6 +116,15 @@ public:
     void EditorChanged(QORViewpoint& viewpoint) override {
         log_.add("editor " + std::string(viewer_.GetViewpointEditor(&viewpoint)->GetName()));
     }
+    void ViewpointRemoved(QORViewpoint& viewpoint) override { log_.add(std::string(viewpoint.IsA()) + " removed"); }
+    void CameraChanged(QOR3DViewpoint& viewpoint) override {
+        log_.add("camera at " + std::to_string(static_cast<int>(viewpoint.GetCamera().eye[0])));
+    }
+    void FitAll(QORViewpoint&) override { log_.add("fit"); }
+    void ObjectChanged(QORViewpoint&, QORBaseUnknown& object, long revision) override {
+        log_.add("changed " + numberOf(object) +
+                 (revision == QORVisManager::GetVisManager()->GetRevision(&object) ? "" : " wrongly"));
+    }
     void ObjectShown(QORViewpoint&, QORBaseUnknown& object) override { log_.add("shown " + numberOf(object)); }
     void ObjectHidden(QORViewpoint&, QORBaseUnknown& object) override { log_.add("hidden " + numberOf(object)); }
     void SelectionChanged(QORViewpoint& viewpoint) override {
