@@ -21,23 +21,7 @@ install(
   NAMESPACE VXMBomInfrastructure::
   DESTINATION ${package_dir})
 
-# Headers keep their folders. The trace object and the forwarders of the tree stay inside the library, and so do the
-# headers that need them.
-install(
-  DIRECTORY platform/
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QORPlatform
-  FILES_MATCHING
-  PATTERN "*.h")
-install(
-  DIRECTORY VXMBomInfrastructure/
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VXMBomInfrastructure
-  FILES_MATCHING
-  PATTERN "*.h"
-  PATTERN VXMBomViewerTrace.h EXCLUDE
-  PATTERN VXMTraceMarks.h EXCLUDE
-  PATTERN "*Ties.h" EXCLUDE)
-install(DIRECTORY planner/model planner/file planner/edit DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/planner
-        FILES_MATCHING PATTERN "*.h")
+include(cmake/VXMPublicHeaders.cmake)
 
 configure_package_config_file(cmake/VXMBomInfrastructureConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/VXMBomInfrastructureConfig.cmake
@@ -46,3 +30,11 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/VXMBomInfrastructureConfi
                                  COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/VXMBomInfrastructureConfig.cmake
               ${PROJECT_BINARY_DIR}/VXMBomInfrastructureConfigVersion.cmake DESTINATION ${package_dir})
+
+# For whoever builds without CMake. The host's libraries are for CMake only.
+file(RELATIVE_PATH pkgconfig_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+configure_file(cmake/VXMBomInfrastructure.pc.in ${PROJECT_BINARY_DIR}/VXMBomInfrastructure.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/VXMBomInfrastructure.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -16,3 +16,9 @@ function(vxm_own_code target)
   # g++ 12 warns falsely of overlapping copies inside std::string when it optimises.
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endfunction()
+
+# Lets out of a shared library what a version script names, and nothing else.
+function(vxm_export_by target map)
+  target_link_options(${target} PRIVATE -Wl,--version-script=${map})
+  set_target_properties(${target} PROPERTIES LINK_DEPENDS ${map})
+endfunction()

@@ -4,11 +4,8 @@
 #include "QORPlatform/framework/QORVar.h"
 
 QORStatus QORInstantiateComponent(const char* iName, const QORInterfaceID& iInterface, void** oInterface) {
-    if (!oInterface) {
-        return QOR_FAILED;
-    }
     *oInterface = nullptr;
-    const QORMetaClass* const meta = QORDictionary::Get().FindClass(iName ? iName : "");
+    const QORMetaClass* const meta = QORDictionary::Get().FindClass(iName);
     if (!meta) {
         return QOR_FAILED;
     }

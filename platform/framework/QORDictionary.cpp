@@ -73,17 +73,12 @@ void QORDictionary::Bind(const std::string& iClass, const QORInterfaceID& iInter
     _bindings[iClass].push_back({iInterface, iFactory});
 }
 
-void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {
+void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface) {
     const auto place = _bindings.find(iClass);
     if (place == _bindings.end()) {
         return;
     }
-    const auto bound = std::find_if(place->second.begin(), place->second.end(), [&](const Binding& iBinding) {
-        return iBinding.interface == iInterface && iBinding.factory == iFactory;
-    });
-    if (bound != place->second.end()) {
-        place->second.erase(bound);
-    }
+    std::erase_if(place->second, [&](const Binding& iBinding) { return iBinding.interface == iInterface; });
     if (place->second.empty()) {
         _bindings.erase(place);
     }
@@ -132,12 +127,10 @@ std::vector<std::string> QORDictionary::Report() const {
 }
 
 QORFillDictionary::QORFillDictionary(const char* iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory)
-    : _class(iClass ? iClass : ""), _interface(iInterface), _factory(iFactory) {
-    if (iClass && iFactory) {
-        QORDictionary::Get().Bind(_class, _interface, _factory);
-    }
+    : _class(iClass), _interface(iInterface) {
+    QORDictionary::Get().Bind(_class, _interface, iFactory);
 }
 
 QORFillDictionary::~QORFillDictionary() {
-    QORDictionary::Get().Unbind(_class, _interface, _factory);
+    QORDictionary::Get().Unbind(_class, _interface);
 }

@@ -1,11 +1,10 @@
-// The library over a model of one's own: a chain of steps with parts, and the bill that comes of it.
+// A model of one's own: a chain of steps with parts.
 //
 // A model object derives from QORBaseUnknown, holds one forwarder per interface that it answers, and names them in
-// QueryInterface. That is all that the generator needs to know of it.
+// QueryInterface. That is all that the library needs to know of it.
+#pragma once
 
 #include <QORPlatform/collections/QORListValQORBaseUnknown_var.h>
-#include <QORPlatform/dom/DOM_Document.h>
-#include <VXMBomInfrastructure/generation/StrX.h>
 #include <VXMBomInfrastructure/model/QORISPPAbstractActivity.h>
 #include <VXMBomInfrastructure/model/QORISPPActivity.h>
 #include <VXMBomInfrastructure/model/QORISPPChildManagement.h>
@@ -13,13 +12,10 @@
 #include <VXMBomInfrastructure/model/QORISPPItem.h>
 #include <VXMBomInfrastructure/model/QORISPPItemMgt.h>
 #include <VXMBomInfrastructure/model/QORISpecObject.h>
-#include <VXMBomInfrastructure/process/VXMProcessBomGenerator.h>
 
-#include <iostream>
-#include <string>
 #include <vector>
 
-namespace {
+namespace line {
 
 using List = QORListValQORBaseUnknown_var;
 
@@ -45,8 +41,18 @@ public:
     Step* parent = nullptr;
     Step* before = nullptr;
     Step* after = nullptr;
-    std::vector<Part*> comingIn;
-    std::vector<Part*> takenOut;
+    std::vector<QORBaseUnknown*> comingIn;
+    std::vector<QORBaseUnknown*> takenOut;
+
+    /// Appends a step to those below this one, behind the last.
+    void append(Step& step) {
+        step.parent = this;
+        if (!children.empty()) {
+            step.before = children.back();
+            children.back()->after = &step;
+        }
+        children.push_back(&step);
+    }
 
     QORUnicodeString GetName() { return name_; }
     QORISPPAbstractActivity_var GetParent() { return {parent}; }
@@ -91,31 +97,4 @@ private:
     QORISPPItemMgtTie<Step> items_{this};
 };
 
-void print(const DOM_Node& element, int depth) {
-    for (DOM_Node child = element.getFirstChild(); !child.isNull(); child = child.getNextSibling()) {
-        std::cout << std::string(2 * depth, ' ') << StrX(DOM_Element(child).getAttribute("DisplayName")) << '\n';
-        print(child, depth + 1);
-    }
-}
-
-} // namespace
-
-int main() {
-    Part panel("Outer panel");
-    Part hinge("Hinge");
-    Part jig("Welding jig");
-    Step line("Door line");
-    Step load("Load");
-    Step weld("Weld");
-    line.children = {&load, &weld};
-    load.parent = weld.parent = &line;
-    load.after = &weld;
-    weld.before = &load;
-    load.comingIn = {&panel, &jig};
-    weld.comingIn = {&hinge};
-    weld.takenOut = {&jig};
-
-    VXMProcessBomGenerator generator{QORBaseUnknown_var(&line)};
-    const DOM_Document bill = generator.GetBom(0);
-    print(bill.getDocumentElement(), 0);
-}
+} // namespace line
