@@ -7,38 +7,13 @@ namespace planner {
 
 namespace {
 
-constexpr KindPair kAdded{ChangeKind::FlowObjectAdded, ChangeKind::FlowObjectGone};
-constexpr KindPair kRemoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectAdded};
-constexpr KindPair kMoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectGone};
-
-OptionalList<Activity*>& activitiesOf(FlowObject& container) {
-    if (container.sort() == Sort::Resource) {
-        throw EditError(EditError::Fault::WrongSort,
-                        quoted(container) + " is a resource; expected an activity or a behaviour to hold activities");
-    }
-    return container.sort() == Sort::Activity ? static_cast<Activity&>(container).children
-                                              : static_cast<Behaviour&>(container).activities;
-}
-
-void fill(Activity& activity, const NewActivity& made) {
-    if (made.name) {
-        activity.setName(*made.name);
-    }
-    if (made.kind) {
-        activity.setKind(*made.kind);
-    }
-    if (made.type) {
-        activity.setType(*made.type);
-    }
-}
-
 /// Where the activity stands. The root stands nowhere and can't be taken away.
 Spot spotOf(const Plan& plan, const Activity& activity) {
     if (&activity == plan.process()) {
         throw EditError(EditError::Fault::WrongSort, quoted(activity) + " is the root of the process, which stays");
     }
     auto& container = static_cast<FlowObject&>(*activity.container());
-    const ListRef list(activitiesOf(container));
+    const ListRef list(activitiesFor(container));
     return {list, &container, list.positionOf(activity)};
 }
 
@@ -46,7 +21,7 @@ Spot spotOf(const Plan& plan, const Activity& activity) {
 
 Activity& PlanEditor::addActivity(FlowObject& container, const NewActivity& made, std::size_t position) {
     checkStands(plan(), container);
-    auto& list = activitiesOf(container);
+    auto& list = activitiesFor(container);
     checkNewId(plan(), made.id);
     checkText(made.name.value_or(""));
     checkText(made.type.value_or(""));
@@ -56,9 +31,11 @@ Activity& PlanEditor::addActivity(FlowObject& container, const NewActivity& made
         ownProcess(container, made.id);
         activity = &plan().newActivity();
         plan().nameNew(*activity, made.id);
-        fill(*activity, made);
+        activity->setName(made.name);
+        activity->setKind(made.kind);
+        activity->setType(made.type);
         makeStanding({activity}, Standing::Entering);
-        place(kAdded, *activity, std::nullopt, Spot{list, &container, at});
+        moveInLists(kFlowObjectAdded, *activity, std::nullopt, Spot{list, &container, at});
     });
     return *activity;
 }
@@ -66,23 +43,45 @@ Activity& PlanEditor::addActivity(FlowObject& container, const NewActivity& made
 void PlanEditor::removeActivity(Activity& activity) {
     checkStands(plan(), activity);
     const Spot spot = spotOf(plan(), activity);
-    perform("Remove " + quoted(activity), [&] {
-        place(kRemoved, activity, spot, std::nullopt);
-        takeContents(activity);
-    });
+    perform("Remove " + quoted(activity),
+            [&] { takeContents(activity, makeListMove(kFlowObjectRemoved, activity, spot, std::nullopt)); });
 }
 
 void PlanEditor::moveActivity(Activity& activity, FlowObject& container, std::size_t position) {
     checkStands(plan(), activity);
     checkStands(plan(), container);
-    auto& list = activitiesOf(container);
+    auto& list = activitiesFor(container);
     checkNoCycle(activity, &container);
     const Spot from = spotOf(plan(), activity);
     const std::size_t at = checkedPosition(position, list.size() - (from.owner == &container ? 1 : 0));
     perform("Move " + quoted(activity), [&] {
         ownProcess(container);
-        place(kMoved, activity, from, Spot{list, &container, at});
+        moveInLists(kFlowObjectMoved, activity, from, Spot{list, &container, at});
     });
+}
+
+void PlanEditor::setKind(Activity& activity, std::optional<ActivityKind> kind) {
+    checkStands(plan(), activity);
+    if (&activity == plan().process() && kind == ActivityKind::Logical) {
+        throw EditError(EditError::Fault::WrongSort,
+                        quoted(activity) + " is the root of the process, which can't be logical");
+    }
+    exchange("Change the kind of " + quoted(activity), ChangeKind::ListsChanged, activity, [&activity, kind]() mutable {
+        const auto before = activity.ownKind();
+        activity.setKind(kind);
+        kind = before;
+    });
+}
+
+void PlanEditor::setType(Activity& activity, std::optional<std::string> type) {
+    checkStands(plan(), activity);
+    checkText(type.value_or(""));
+    exchange("Change the type of " + quoted(activity), ChangeKind::Reworded, activity,
+             [&activity, type = std::move(type)]() mutable {
+                 auto before = activity.ownType();
+                 activity.setType(std::move(type));
+                 type = std::move(before);
+             });
 }
 
 } // namespace planner

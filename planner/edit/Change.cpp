@@ -1,8 +1,10 @@
 #include "planner/edit/Change.h"
 
+#include "planner/model/Contents.h"
+
 namespace planner {
 
-void Placement::apply() {
+void ListMove::apply() {
     if (from_) {
         takeOut(*from_);
     }
@@ -12,7 +14,7 @@ void Placement::apply() {
     }
 }
 
-void Placement::revert() {
+void ListMove::revert() {
     if (to_) {
         takeOut(*to_);
         if (!wasPresent_) {
@@ -24,18 +26,18 @@ void Placement::revert() {
     }
 }
 
-void Placement::putIn(Spot& spot) {
+void ListMove::putIn(Spot& spot) {
     spot.list.insert(spot.position, object_);
-    if (object_.sort() != Sort::Item) {
+    if (isContained(object_, spot.owner)) {
         static_cast<FlowObject&>(object_).setContainer(spot.owner);
     } else if (ObjectList* const list = spot.list.objects()) {
         mentions_.came(object_, *spot.owner, *list);
     }
 }
 
-void Placement::takeOut(Spot& spot) {
+void ListMove::takeOut(Spot& spot) {
     spot.list.erase(spot.position);
-    if (object_.sort() != Sort::Item) {
+    if (isContained(object_, spot.owner)) {
         static_cast<FlowObject&>(object_).setContainer(nullptr);
     } else if (const ObjectList* const list = spot.list.objects()) {
         mentions_.went(object_, *list);

@@ -40,9 +40,9 @@ struct Spot {
 
 /// An object that comes into a list, leaves one, or leaves one for another. The second position counts without the
 /// object.
-class Placement final : public Change {
+class ListMove final : public Change {
 public:
-    Placement(KindPair kinds, Mentions& mentions, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to)
+    ListMove(KindPair kinds, Mentions& mentions, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to)
         : Change(kinds), mentions_(mentions), object_(object), from_(from), to_(to) {}
 
     void apply() override;

@@ -3,10 +3,12 @@
 #include "planner/edit/EditError.h"
 #include "planner/edit/PlanEditor.h"
 #include "planner/file/JsonText.h"
+#include "planner/file/PlanGrammar.h"
+#include "planner/file/PlanReader.h"
 #include "planner/file/SourceText.h"
+#include "planner/model/Contents.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace planner {
 
@@ -16,11 +18,8 @@ void checkText(std::string_view text) {
     if (const auto fault = findEncodingFault(text)) {
         throw EditError(Fault::BadText, "the text " + inQuotes(text) + " can't be kept: " + fault->message);
     }
-    const bool isBad = std::any_of(text.begin(), text.end(), [](char letter) {
-        return static_cast<unsigned char>(letter) < 0x20 && letter != '\t' && letter != '\n' && letter != '\r';
-    });
-    if (isBad) {
-        throw EditError(Fault::BadText, "the text " + inQuotes(text) + " holds a control character");
+    if (holdsControlCharacter(text)) {
+        throw EditError(Fault::BadText, "the text " + inQuotes(text) + kControlCharacterText);
     }
 }
 
@@ -50,37 +49,20 @@ void checkStands(const Plan& plan, const ModelObject& object) {
     }
 }
 
-namespace {
-
-bool areFinite(const std::vector<double>& numbers) {
-    return std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); });
-}
-
-} // namespace
-
 void checkShape(const Shape& shape) {
-    const auto rule =
-        std::find_if(kForms.begin(), kForms.end(), [&](const FormRule& each) { return each.form == shape.form; });
-    if (shape.sizes.size() != rule->sizes) {
-        throw EditError(Fault::BadValue, '"' + std::string(rule->key) + "\" has " + std::to_string(shape.sizes.size()) +
-                                             " numbers; expected " + std::to_string(rule->sizes));
-    }
-    if (!areFinite(shape.sizes) ||
-        std::any_of(shape.sizes.begin(), shape.sizes.end(), [](double size) { return size <= 0; })) {
-        throw EditError(Fault::BadValue, '"' + std::string(rule->key) + "\" has a size that isn't above 0");
+    if (const auto fault = sizesFault(ruleOf(shape.form), shape.sizes)) {
+        throw EditError(Fault::BadValue, *fault);
     }
     if (shape.part && shape.form != Shape::Form::Step) {
-        throw EditError(Fault::BadValue, "a \"part\" in a shape that is no file");
+        throw EditError(Fault::BadValue, kPartWithoutFile);
     }
     checkText(shape.file);
     checkText(shape.part.value_or(""));
 }
 
 void checkPlace(const Place& place) {
-    const std::size_t count = place.numbers.size();
-    if ((count != 3 && count != 6) || !areFinite(place.numbers)) {
-        throw EditError(Fault::BadValue, "a place of " + std::to_string(count) +
-                                             " numbers; expected 3 finite ones, or 6 with the turns");
+    if (const auto fault = placeFault(place.numbers)) {
+        throw EditError(Fault::BadValue, *fault);
     }
 }
 
@@ -93,10 +75,21 @@ void checkNoCycle(const FlowObject& object, const ModelObject* container) {
     }
 }
 
-void checkIsOccurrence(const Item& item) {
-    if (!item.answersProduct()) {
+OptionalList<Activity*>& activitiesFor(FlowObject& container) {
+    OptionalList<Activity*>* const list = activitiesIn(container);
+    if (!list) {
         throw EditError(Fault::WrongSort,
-                        quoted(item) + R"( can't be a child; expected a product, or an assembly with "children")");
+                        quoted(container) + " is a resource; expected an activity or a behaviour to hold activities");
+    }
+    return *list;
+}
+
+void tidyNotes(std::string& json) {
+    if (json.empty()) {
+        return;
+    }
+    if (const auto fault = orderNotes(json)) {
+        throw EditError(Fault::BadValue, *fault);
     }
 }
 
@@ -109,6 +102,10 @@ std::size_t checkedPosition(std::size_t position, std::size_t size) {
 }
 
 std::string quoted(const ModelObject& object) {
+    if (object.sort() == Sort::Behaviour && object.id().empty()) {
+        const ModelObject* const resource = static_cast<const FlowObject&>(object).container();
+        return resource ? "the behaviour of " + quoted(*resource) : "a behaviour";
+    }
     return inQuotes(object.name().empty() ? object.id() : object.name());
 }
 

@@ -25,8 +25,11 @@ void checkPlace(const Place& place);
 /// The container isn't the object, nor anywhere below it.
 void checkNoCycle(const FlowObject& object, const ModelObject* container);
 
-/// The item may stand among the children of a product or a resource.
-void checkIsOccurrence(const Item& item);
+/// The list of the activities that stand in the container, which is an activity or a behaviour.
+OptionalList<Activity*>& activitiesFor(FlowObject& container);
+
+/// Puts a JSON value, or an empty text, into the form in which a plan keeps notes.
+void tidyNotes(std::string& json);
 
 /// The position is at most the size; the size is given back for kAtEnd.
 std::size_t checkedPosition(std::size_t position, std::size_t size);

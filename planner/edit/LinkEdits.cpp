@@ -9,18 +9,20 @@ namespace planner {
 
 namespace {
 
-/// A link that comes into the plan at its end, or leaves it.
+/// A link that comes into the plan in front of another, or leaves it.
 class LinkChange final : public Change {
 public:
-    enum Direction { Adding, Taking };
+    enum Direction { Adding, Returning, Taking };
 
-    LinkChange(Plan& plan, Link& link, Direction direction)
-        : Change(direction == Adding ? KindPair{ChangeKind::LinkAdded, ChangeKind::LinkGone}
-                                     : KindPair{ChangeKind::LinkGone, ChangeKind::LinkAdded}),
-          plan_(plan), link_(link), direction_(direction), wasPresent_(plan.links().present()), before_(link.next) {}
+    /// What stands behind the link when it is in the list is null for the end. As long as the change can be made or
+    /// taken back, it is there.
+    LinkChange(Plan& plan, Link& link, Direction direction, Link* before)
+        : Change(direction == Taking ? KindPair{ChangeKind::LinkGone, ChangeKind::LinkAdded}
+                                     : KindPair{ChangeKind::LinkAdded, ChangeKind::LinkGone}),
+          plan_(plan), link_(link), direction_(direction), wasPresent_(plan.links().present()), before_(before) {}
 
-    void apply() override { direction_ == Adding ? put() : take(); }
-    void revert() override { direction_ == Adding ? take() : put(); }
+    void apply() override { direction_ == Taking ? take() : put(); }
+    void revert() override { direction_ == Taking ? put() : take(); }
     void forget() override {
         if (direction_ == Adding) {
             plan_.discardLink(link_);
@@ -31,16 +33,14 @@ private:
     void put() { plan_.putLink(link_, before_); }
     void take() {
         plan_.takeLink(link_);
-        if (direction_ == Adding) {
-            plan_.setLinksPresent(wasPresent_);
-        }
+        plan_.setLinksPresent(wasPresent_);
     }
 
     Plan& plan_;
     Link& link_;
-    Direction direction_;
+    Direction direction_; // a link that returns was the plan's before the step
     bool wasPresent_;
-    Link* before_; // what stands behind the link when it is in the list; as long as the change can be made, it is there
+    Link* before_;
 };
 
 void checkFlowEnd(const Plan& plan, const FlowObject& object) {
@@ -50,21 +50,7 @@ void checkFlowEnd(const Plan& plan, const FlowObject& object) {
     }
 }
 
-} // namespace
-
-void PlanEditor::addLink(FlowObject& from, FlowObject& to) {
-    checkFlowEnd(plan(), from);
-    checkFlowEnd(plan(), to);
-    perform("Link " + quoted(from) + " to " + quoted(to), [&] {
-        ownProcess(from);
-        ownProcess(to);
-        open_->make(std::make_unique<LinkChange>(plan(), plan().newLink(from, to), LinkChange::Adding));
-    });
-}
-
-void PlanEditor::removeLink(FlowObject& from, FlowObject& to) {
-    checkStands(plan(), from);
-    checkStands(plan(), to);
+Link& firstLink(FlowObject& from, FlowObject& to) {
     // Either view has the link; the shorter one is looked at.
     const LinkView& view = from.linksOut().size() < to.linksIn().size() ? from.linksOut() : to.linksIn();
     const auto link = std::find_if(view.begin(), view.end(),
@@ -72,11 +58,43 @@ void PlanEditor::removeLink(FlowObject& from, FlowObject& to) {
     if (link == view.end()) {
         throw EditError(EditError::Fault::NoSuchPlace, "there is no link from " + quoted(from) + " to " + quoted(to));
     }
-    perform("Remove the link from " + quoted(from) + " to " + quoted(to), [&] { takeLink(**link); });
+    return **link;
+}
+
+} // namespace
+
+void PlanEditor::addLink(FlowObject& from, FlowObject& to, std::size_t position) {
+    checkFlowEnd(plan(), from);
+    checkFlowEnd(plan(), to);
+    const std::size_t at = checkedPosition(position, plan().links().size());
+    perform("Link " + quoted(from) + " to " + quoted(to), [&] {
+        ownProcess(from);
+        ownProcess(to);
+        open_->make(
+            std::make_unique<LinkChange>(plan(), plan().newLink(from, to), LinkChange::Adding, plan().linkAt(at)));
+    });
+}
+
+void PlanEditor::removeLink(FlowObject& from, FlowObject& to) {
+    checkStands(plan(), from);
+    checkStands(plan(), to);
+    Link& link = firstLink(from, to);
+    perform("Remove the link from " + quoted(from) + " to " + quoted(to), [&] { takeLink(link); });
+}
+
+void PlanEditor::moveLink(FlowObject& from, FlowObject& to, std::size_t position) {
+    checkStands(plan(), from);
+    checkStands(plan(), to);
+    Link& link = firstLink(from, to);
+    const std::size_t at = checkedPosition(position, plan().links().size() - 1);
+    perform("Move the link from " + quoted(from) + " to " + quoted(to), [&] {
+        takeLink(link);
+        open_->make(std::make_unique<LinkChange>(plan(), link, LinkChange::Returning, plan().linkAt(at)));
+    });
 }
 
 void PlanEditor::takeLink(Link& link) {
-    open_->make(std::make_unique<LinkChange>(plan(), link, LinkChange::Taking));
+    open_->make(std::make_unique<LinkChange>(plan(), link, LinkChange::Taking, link.next));
 }
 
 } // namespace planner

@@ -6,34 +6,33 @@ namespace planner {
 
 namespace {
 
-/// How far from its last place an object may be found before all entries are told their places anew.
+/// How far from where it was last seen an object may be found before all entries are told their positions anew.
 constexpr std::size_t kFar = 1024;
 
 template <class T>
 std::size_t searchFrom(std::size_t start, const std::vector<T*>& entries, const ModelObject& object) {
     std::size_t below = std::min(start, entries.size());
-    std::size_t above = below;
-    while (true) {
+    for (std::size_t above = below; above < entries.size() || below > 0; ++above) {
         if (above < entries.size() && entries[above] == &object) {
             return above;
         }
-        ++above;
         if (below > 0 && entries[--below] == &object) {
             return below;
         }
     }
+    return entries.size();
 }
 
 template <class T>
-std::size_t placeOf(const std::vector<T*>& entries, const ModelObject& object) {
+std::size_t positionIn(const std::vector<T*>& entries, const ModelObject& object) {
     const std::size_t hint = object.positionHint();
-    const std::size_t place = searchFrom(hint, entries, object);
-    if (std::max(hint, place) - std::min(hint, place) > kFar) {
+    const std::size_t position = searchFrom(hint, entries, object);
+    if (std::max(hint, position) - std::min(hint, position) > kFar) {
         for (std::size_t i = 0; i < entries.size(); ++i) {
             entries[i]->setPositionHint(i);
         }
     }
-    return place;
+    return position;
 }
 
 template <class T>
@@ -72,7 +71,7 @@ void ListRef::reset() {
 }
 
 std::size_t ListRef::positionOf(const ModelObject& object) const {
-    return std::visit([&](const auto* list) { return placeOf(list->entries(), object); }, list_);
+    return std::visit([&](const auto* list) { return positionIn(list->entries(), object); }, list_);
 }
 
 ObjectList* ListRef::objects() const {

@@ -23,8 +23,8 @@ public:
     /// Makes the list absent.
     void reset();
 
-    /// Position of an object that stands in the list. Searched from where the object was last seen, so that a session
-    /// of edits doesn't go through long lists over and over.
+    /// Position of an object in the list, the size when it isn't there. Searched from where the object was last seen,
+    /// so that a session of edits doesn't go through long lists over and over.
     std::size_t positionOf(const ModelObject& object) const;
 
     /// The list as one that names objects of any class, null when it isn't declared like that.

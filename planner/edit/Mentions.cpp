@@ -6,13 +6,13 @@ namespace planner {
 
 namespace {
 
-/// Calls visit(list, item) for each item that a list of the owner names.
+/// Calls visit(list, object) for each object that a list of the owner names.
 template <class Visit>
-void visitItems(ModelObject& owner, Visit visit) {
+void visitMentions(ModelObject& owner, Visit visit) {
     for (const Relation relation : kRelations) {
         if (ObjectList* const list = listOf(owner, relation)) {
             for (const ModelObject* entry : *list) {
-                if (entry->sort() == Sort::Item) {
+                if (!isContained(*entry, &owner)) {
                     visit(*list, *entry);
                 }
             }
@@ -22,13 +22,13 @@ void visitItems(ModelObject& owner, Visit visit) {
 
 } // namespace
 
-std::vector<Mention> Mentions::of(const ModelObject& item) {
+std::vector<Mention> Mentions::of(const ModelObject& object) {
     if (!made_) {
         make();
     }
     std::vector<Mention> result;
-    const auto found = byItem_.find(&item);
-    if (found != byItem_.end()) {
+    const auto found = byObject_.find(&object);
+    if (found != byObject_.end()) {
         for (const auto& [list, mention] : found->second) {
             result.push_back(mention);
         }
@@ -36,35 +36,35 @@ std::vector<Mention> Mentions::of(const ModelObject& item) {
     return result;
 }
 
-void Mentions::came(const ModelObject& item, ModelObject& owner, ObjectList& list) {
+void Mentions::came(const ModelObject& object, ModelObject& owner, ObjectList& list) {
     if (made_) {
-        ++byItem_[&item].try_emplace(&list, Mention{&owner, &list, 0}).first->second.count;
+        ++byObject_[&object].try_emplace(&list, Mention{&owner, &list, 0}).first->second.count;
     }
 }
 
-void Mentions::went(const ModelObject& item, const ObjectList& list) {
+void Mentions::went(const ModelObject& object, const ObjectList& list) {
     if (!made_) {
         return;
     }
-    const auto lists = byItem_.find(&item);
+    const auto lists = byObject_.find(&object);
     const auto mention = lists->second.find(&list);
     if (--mention->second.count == 0) {
         lists->second.erase(mention);
     }
     if (lists->second.empty()) {
-        byItem_.erase(lists);
+        byObject_.erase(lists);
     }
 }
 
 void Mentions::ownerCame(ModelObject& owner) {
     if (made_) {
-        visitItems(owner, [&](ObjectList& list, const ModelObject& item) { came(item, owner, list); });
+        visitMentions(owner, [&](ObjectList& list, const ModelObject& object) { came(object, owner, list); });
     }
 }
 
 void Mentions::ownerWent(ModelObject& owner) {
     if (made_) {
-        visitItems(owner, [&](const ObjectList& list, const ModelObject& item) { went(item, list); });
+        visitMentions(owner, [&](const ObjectList& list, const ModelObject& object) { went(object, list); });
     }
 }
 

@@ -9,25 +9,25 @@
 
 namespace planner {
 
-/// A list that names an item.
+/// A list that names an object which stands elsewhere: an item, or a resource as a part of a product.
 struct Mention {
     ModelObject* owner;
     ObjectList* list;
     std::size_t count; ///< how often it does
 };
 
-/// Which lists of a plan name which items: what has to be looked at when an item goes. Made from the plan when it is
-/// first asked, and kept in step from then on, so that removing many items doesn't go through the plan for each.
+/// Which lists of a plan name which objects: what has to be looked at when one goes. Made from the plan when it is
+/// first asked, and kept in step from then on, so that removing many objects doesn't go through the plan for each.
 class Mentions {
 public:
     explicit Mentions(Plan& plan) : plan_(plan) {}
 
-    /// The lists that name the item, those of objects that stand in the plan, in no order.
-    std::vector<Mention> of(const ModelObject& item);
+    /// The lists that name the object, those of owners that stand in the plan, in no order.
+    std::vector<Mention> of(const ModelObject& object);
 
-    /// An item has come into a list of the owner, or gone.
-    void came(const ModelObject& item, ModelObject& owner, ObjectList& list);
-    void went(const ModelObject& item, const ObjectList& list);
+    /// An object has come into a list of the owner, or gone.
+    void came(const ModelObject& object, ModelObject& owner, ObjectList& list);
+    void went(const ModelObject& object, const ObjectList& list);
 
     /// An owner, with what its lists hold, has come into the plan, or gone.
     void ownerCame(ModelObject& owner);
@@ -38,7 +38,7 @@ private:
 
     Plan& plan_;
     bool made_ = false;
-    std::unordered_map<const ModelObject*, std::unordered_map<const ObjectList*, Mention>> byItem_;
+    std::unordered_map<const ModelObject*, std::unordered_map<const ObjectList*, Mention>> byObject_;
 };
 
 } // namespace planner

@@ -6,6 +6,7 @@
 #include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <memory>
+#include <utility>
 
 namespace planner {
 
@@ -21,6 +22,10 @@ public:
 
     Plan& plan() { return *plan_; }
 
+    /// Begins to edit the plan; gives whether nobody else does. Every true is followed by one endEditing.
+    bool takeForEditing() { return !std::exchange(isEdited_, true); }
+    void endEditing() { isEdited_ = false; }
+
     static QORMetaClass* ClassMeta();
     QORMetaClass* GetMetaObject() const override;
     QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
@@ -30,6 +35,7 @@ public:
 
 private:
     std::unique_ptr<Plan> plan_;
+    bool isEdited_ = false;
     QORInitTie<PlanDocument> init_{this};
 };
 

@@ -1,6 +1,6 @@
 #include "planner/edit/PlanEditor.h"
 
-#include "planner/edit/Checks.h"
+#include "planner/file/JsonText.h"
 #include "planner/model/Contents.h"
 
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
@@ -9,14 +9,21 @@
 
 namespace planner {
 
-PlanEditor::PlanEditor(PlanDocument& document) : document_(&document), mentions_(document.plan()) {}
+PlanEditor::PlanEditor(PlanDocument& document) : document_(&document), mentions_(document.plan()) {
+    if (!document.takeForEditing()) {
+        throw EditError(EditError::Fault::InUse, "the plan " + inQuotes(document.plan().title()) +
+                                                     " has an editor already; expected one at a time");
+    }
+}
 
-PlanEditor::~PlanEditor() = default;
+PlanEditor::~PlanEditor() {
+    document_->endEditing();
+}
 
 ModelObject& PlanEditor::object(const std::string& id) const {
     ModelObject* const found = plan().find(id);
     if (!found) {
-        throw EditError(EditError::Fault::UnknownObject, '"' + id + "\" is not in this plan");
+        throw EditError(EditError::Fault::UnknownObject, inQuotes(id) + " is not in this plan");
     }
     return *found;
 }
@@ -98,12 +105,18 @@ void PlanEditor::makeStanding(std::vector<ModelObject*> objects, Standing::Direc
     open_->make(std::make_unique<Standing>(plan(), mentions_, std::move(objects), direction));
 }
 
-void PlanEditor::place(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to) {
-    open_->make(std::make_unique<Placement>(kinds, mentions_, object, from, to));
+std::unique_ptr<Change> PlanEditor::makeListMove(KindPair kinds, ModelObject& object, std::optional<Spot> from,
+                                                 std::optional<Spot> to) {
+    return std::make_unique<ListMove>(kinds, mentions_, object, from, to);
 }
 
-/// Takes the links of a top and of all below it, and then all of them, out of the plan. The top is out of its list.
-void PlanEditor::takeContents(FlowObject& top) {
+void PlanEditor::moveInLists(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to) {
+    open_->make(makeListMove(kinds, object, from, to));
+}
+
+/// Takes what names a top or something below it (links, lists) out of the plan, then the top out of what it stands in,
+/// then all of them out of the plan.
+void PlanEditor::takeContents(FlowObject& top, std::unique_ptr<Change> takeOut) {
     std::vector<ModelObject*> objects;
     walkContents(top, [&](FlowObject& object, ModelObject*) { objects.push_back(&object); });
     for (ModelObject* object : objects) {
@@ -114,22 +127,12 @@ void PlanEditor::takeContents(FlowObject& top) {
         while (!flow.linksIn().empty()) {
             takeLink(*flow.linksIn().entries().back());
         }
+        if (object->sort() == Sort::Resource) {
+            takeMentions(*object);
+        }
     }
+    open_->make(std::move(takeOut));
     makeStanding(std::move(objects), Standing::Leaving);
-}
-
-void PlanEditor::rename(ModelObject& object, std::string name) {
-    checkStands(plan(), object);
-    if (object.sort() == Sort::Behaviour) {
-        throw EditError(EditError::Fault::WrongSort, quoted(object) + " is a behaviour, which can't have a name");
-    }
-    checkText(name);
-    perform("Rename " + quoted(object), [&] {
-        ownProcess(object);
-        const ChangeKind kind = object.sort() == Sort::Item ? ChangeKind::ItemChanged : ChangeKind::Renamed;
-        open_->make(makeExchange(
-            {kind, kind}, [&object, name = std::move(name), isOwn = true]() mutable { object.swapName(name, isOwn); }));
-    });
 }
 
 } // namespace planner

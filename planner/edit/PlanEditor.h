@@ -22,7 +22,7 @@ struct NewActivity {
     std::optional<std::string> type = {};
 };
 
-/// What a new item is.
+/// What a new item is. Its kind stays: an item of another kind is another item.
 struct NewItem {
     std::string id;
     ItemKind kind = ItemKind::Item;
@@ -35,17 +35,20 @@ struct NewResource {
     std::optional<std::string> name = {};
 };
 
-/// Edits the plan of a document, and keeps the document.
+/// Edits the plan of a document, and keeps the document. There is one editor for a document at a time: making a second
+/// one raises EditError.
 ///
-/// Each operation is one step to undo. It either raises EditError with nothing changed, or changes the plan and then
-/// tells the views of it: one notification for each kind of change in the step (see ChangeKind), in the order of their
-/// numbers, by the publisher of the root activity. Undo and redo tell likewise. What a subscriber raises comes out when
-/// all have been told; the step has been made then and can be undone. Subscribers may edit, undo and end the editor.
+/// Each operation is one step to undo, with a text for a menu ("Rename \"Panel\""). It either raises EditError with
+/// nothing changed, or changes the plan and then tells the views of it: one notification for each kind of change in the
+/// step (see ChangeKind), in the order of their numbers, by the publisher of the root activity. Undo and redo tell
+/// likewise. What a subscriber raises comes out when all have been told; the step has been made then and can be undone.
+/// Subscribers may edit, undo and end the editor.
 ///
 /// After each operation the plan can be written to a file and read again: no id stands twice, nothing names what isn't
 /// there. What is removed takes what names it along: its places in lists and its links, with those of all that stands
 /// in it. Undo brings the same objects back, with their identity numbers, in their places; a list that was absent is
-/// absent again. Positions count from 0; kAtEnd appends.
+/// absent again. Positions count from 0; kAtEnd appends. Where a value is optional, none stands for the plan file's
+/// default, which isn't written.
 class PlanEditor {
 public:
     explicit PlanEditor(PlanDocument& document);
@@ -68,23 +71,52 @@ public:
     /// Moves an activity, in its container or to another; the position counts without it. Links stay.
     void moveActivity(Activity& activity, FlowObject& container, std::size_t position = kAtEnd);
 
-    /// Gives an object a name of its own. Behaviours have none: a plan file has no place for it.
-    void rename(ModelObject& object, std::string name);
+    /// Makes an activity one of another kind. The root can't be logical.
+    void setKind(Activity& activity, std::optional<ActivityKind> kind);
+    void setType(Activity& activity, std::optional<std::string> type);
 
-    // Links between activities, resources and behaviours that have an id.
-    void addLink(FlowObject& from, FlowObject& to);
+    /// Makes the absent list of activities of an activity or a behaviour an empty one, and an empty one absent. Nothing
+    /// happens to a list that is as wanted; activities that stand there keep it.
+    void makeActivities(FlowObject& container);
+    void dropActivities(FlowObject& container);
 
-    /// Removes the first link of these two ends.
+    // All objects, and the plan itself.
+
+    /// Gives an object a name of its own, or none: then its id serves. Behaviours have none in a plan file.
+    void rename(ModelObject& object, std::optional<std::string> name);
+
+    /// Gives an object another id; whoever names the object goes on doing so. A behaviour without links can have none.
+    void changeId(ModelObject& object, const std::string& id);
+
+    /// Puts a JSON value in the place of the notes of an object or of the plan; an empty text takes them away.
+    void setNotes(ModelObject& object, std::string json);
+    void setPlanNotes(std::string json);
+
+    /// The title of the plan. A root that stands for an absent process is named after it.
+    void setTitle(std::optional<std::string> title);
+
+    // Links between activities, resources and behaviours that have an id. Their positions are those in the plan's list,
+    // which is the order of all views.
+    void addLink(FlowObject& from, FlowObject& to, std::size_t position = kAtEnd);
+
+    /// Removes or moves the first link of these two ends; the position counts without it.
     void removeLink(FlowObject& from, FlowObject& to);
+    void moveLink(FlowObject& from, FlowObject& to, std::size_t position);
 
-    // The lists of items that activities, behaviours, resources and items have.
-    void putItem(ModelObject& owner, Relation relation, Item& item, std::size_t position = kAtEnd);
+    // The lists in which activities, behaviours, resources and items name others. All of them name items; children of a
+    // product or an assembly can be resources as well.
+    void putItem(ModelObject& owner, Relation relation, ModelObject& item, std::size_t position = kAtEnd);
 
-    /// Takes out the item at a position. The list stays, be it empty.
+    /// Takes out what is named at a position. The list stays, be it empty.
     void takeItem(ModelObject& owner, Relation relation, std::size_t position);
 
+    /// Moves the entry at a position of a list; `to` counts without it. In the list of a resource that may be a nested
+    /// one.
+    void moveEntry(ModelObject& owner, Relation relation, std::size_t from, std::size_t to);
+
     /// Makes an absent list an empty one; takes everything out of a list and makes it absent. Nothing happens to a list
-    /// that is as wanted. An assembly that others name as a child keeps its children.
+    /// that is as wanted. Nested resources keep the list in which they stand, and an assembly that others name as a
+    /// child keeps its children.
     void makeList(ModelObject& owner, Relation relation);
     void dropList(ModelObject& owner, Relation relation);
 
@@ -97,9 +129,10 @@ public:
     Behaviour& addBehaviour(Resource& resource, const std::string& id);
     void removeBehaviour(Resource& resource);
 
-    // Items.
+    // Items. The position of one that moves counts without it.
     Item& addItem(const NewItem& made, std::size_t position = kAtEnd);
     void removeItem(Item& item);
+    void moveItem(Item& item, std::size_t position);
     void setShape(Item& item, std::optional<Shape> shape);
     void setPlace(Item& item, std::optional<Place> place);
     void setFastenerType(Fastener& fastener, std::optional<std::string> type);
@@ -125,18 +158,23 @@ public:
 private:
     template <class Edits>
     void perform(const std::string& text, Edits edits);
+    template <class Swap>
+    void exchange(const std::string& text, ChangeKind kind, ModelObject& object, Swap swap);
     void finishStep();
     void publish(const ChangeKinds& kinds) const;
 
     void ownProcess(const ModelObject& edited, const std::string& reservedId = {});
     void makeStanding(std::vector<ModelObject*> objects, Standing::Direction direction);
-    void place(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to);
+    std::unique_ptr<Change> makeListMove(KindPair kinds, ModelObject& object, std::optional<Spot> from,
+                                         std::optional<Spot> to);
+    void moveInLists(KindPair kinds, ModelObject& object, std::optional<Spot> from, std::optional<Spot> to);
     void takeFromList(ModelObject& owner, ObjectList& list, std::size_t position);
-    void takeMentions(const Item& item);
+    void takeMentions(const ModelObject& object);
     void takeLink(Link& link);
-    void takeContents(FlowObject& top);
+    void takeContents(FlowObject& top, std::unique_ptr<Change> takeOut);
     void checkMayDrop(const ModelObject& owner, const ObjectList& list);
     ObjectList& listFor(ModelObject& owner, Relation relation) const;
+    ChangeKind kindOfRenaming(const ModelObject& object);
 
     QORVar<PlanDocument> document_;
     Mentions mentions_;
@@ -163,6 +201,15 @@ void PlanEditor::perform(const std::string& text, Edits edits) {
     if (isOwnStep) {
         finishStep();
     }
+}
+
+/// A step of one change that puts a value of an object in the place of another.
+template <class Swap>
+void PlanEditor::exchange(const std::string& text, ChangeKind kind, ModelObject& object, Swap swap) {
+    perform(text, [&] {
+        ownProcess(object);
+        open_->make(makeExchange(eitherWay(kind), std::move(swap)));
+    });
 }
 
 } // namespace planner

@@ -7,10 +7,6 @@ namespace planner {
 
 namespace {
 
-constexpr KindPair kAdded{ChangeKind::FlowObjectAdded, ChangeKind::FlowObjectGone};
-constexpr KindPair kRemoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectAdded};
-constexpr KindPair kMoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectGone};
-
 ListRef resourcesIn(Plan& plan, Resource* parent) {
     return parent ? ListRef(parent->children) : ListRef(plan.resources);
 }
@@ -45,11 +41,9 @@ Resource& PlanEditor::addResource(Resource* parent, const NewResource& made, std
     perform("Add " + quoted(made.name, made.id), [&] {
         resource = &plan().newResource();
         plan().nameNew(*resource, made.id);
-        if (made.name) {
-            resource->setName(*made.name);
-        }
+        resource->setName(made.name);
         makeStanding({resource}, Standing::Entering);
-        place(kAdded, *resource, std::nullopt, Spot{list, parent, at});
+        moveInLists(kFlowObjectAdded, *resource, std::nullopt, Spot{list, parent, at});
     });
     return *resource;
 }
@@ -57,8 +51,7 @@ Resource& PlanEditor::addResource(Resource* parent, const NewResource& made, std
 void PlanEditor::removeResource(Resource& resource) {
     checkStands(plan(), resource);
     perform("Remove " + quoted(resource), [&] {
-        place(kRemoved, resource, spotOf(plan(), resource), std::nullopt);
-        takeContents(resource);
+        takeContents(resource, makeListMove(kFlowObjectRemoved, resource, spotOf(plan(), resource), std::nullopt));
     });
 }
 
@@ -71,7 +64,7 @@ void PlanEditor::moveResource(Resource& resource, Resource* parent, std::size_t 
     const Spot from = spotOf(plan(), resource);
     const ListRef list = resourcesIn(plan(), parent);
     const std::size_t at = checkedPosition(position, list.size() - (from.owner == parent ? 1 : 0));
-    perform("Move " + quoted(resource), [&] { place(kMoved, resource, from, Spot{list, parent, at}); });
+    perform("Move " + quoted(resource), [&] { moveInLists(kFlowObjectMoved, resource, from, Spot{list, parent, at}); });
 }
 
 Behaviour& PlanEditor::addBehaviour(Resource& resource, const std::string& id) {
@@ -87,7 +80,7 @@ Behaviour& PlanEditor::addBehaviour(Resource& resource, const std::string& id) {
         behaviour = &plan().newBehaviour();
         plan().nameNew(*behaviour, id);
         makeStanding({behaviour}, Standing::Entering);
-        open_->make(makeBehaviourChange(kAdded, resource, behaviour));
+        open_->make(makeBehaviourChange(kFlowObjectAdded, resource, behaviour));
     });
     return *behaviour;
 }
@@ -98,10 +91,8 @@ void PlanEditor::removeBehaviour(Resource& resource) {
     if (!behaviour) {
         throw EditError(EditError::Fault::NoSuchPlace, quoted(resource) + " has no behaviour");
     }
-    perform("Remove the behaviour of " + quoted(resource), [&] {
-        open_->make(makeBehaviourChange(kRemoved, resource, nullptr));
-        takeContents(*behaviour);
-    });
+    perform("Remove the behaviour of " + quoted(resource),
+            [&] { takeContents(*behaviour, makeBehaviourChange(kFlowObjectRemoved, resource, nullptr)); });
 }
 
 } // namespace planner

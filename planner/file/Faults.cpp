@@ -35,18 +35,19 @@ private:
 
 } // namespace
 
-void Faults::add(Fault fault) {
+void Faults::add(PlacedFault fault) {
     if (!full()) {
         faults_.push_back(std::move(fault));
     }
 }
 
 std::vector<std::string> Faults::lines(const std::string& name, std::string_view text) const {
-    std::vector<Fault> sorted = faults_;
+    std::vector<PlacedFault> sorted = faults_;
     std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const Fault& left, const Fault& right) { return left.offset < right.offset; });
+                     [](const PlacedFault& left, const PlacedFault& right) { return left.offset < right.offset; });
     std::vector<std::size_t> offsets(sorted.size());
-    std::transform(sorted.begin(), sorted.end(), offsets.begin(), [](const Fault& fault) { return fault.offset; });
+    std::transform(sorted.begin(), sorted.end(), offsets.begin(),
+                   [](const PlacedFault& fault) { return fault.offset; });
     const std::vector<std::string> pointers = jsonPointers(text, offsets);
     LineCounter counter(text);
     std::vector<std::string> lines;

@@ -8,7 +8,7 @@
 namespace planner {
 
 /// What is wrong in a text, and where.
-struct Fault {
+struct PlacedFault {
     std::size_t offset;
     std::string message;
     bool inJson; ///< whether the place can be told as a JSON pointer as well
@@ -32,9 +32,9 @@ public:
     std::vector<std::string> lines(const std::string& name, std::string_view text) const;
 
 private:
-    void add(Fault fault);
+    void add(PlacedFault fault);
 
-    std::vector<Fault> faults_;
+    std::vector<PlacedFault> faults_;
 };
 
 } // namespace planner

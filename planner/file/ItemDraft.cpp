@@ -13,26 +13,6 @@ void giveId(Plan& plan, ModelObject& object, const std::string& id, std::size_t 
     }
 }
 
-namespace {
-
-/// Whether items of that kind have the key; keys that all kinds have aren't asked for.
-bool hasKey(ItemKind kind, Key key) {
-    const bool isProduct = kind == ItemKind::Product || kind == ItemKind::Assembly;
-    switch (key) {
-    case Key::Children:
-        return isProduct;
-    case Key::Holds:
-        return kind == ItemKind::Assembly;
-    case Key::Type:
-    case Key::Assigned:
-        return kind == ItemKind::Fastener;
-    default:
-        return true;
-    }
-}
-
-} // namespace
-
 void ItemDraft::text(Key key, std::string value, std::size_t offset) {
     if (key == Key::Id) {
         id_ = std::move(value);
@@ -46,7 +26,7 @@ void ItemDraft::text(Key key, std::string value, std::size_t offset) {
 }
 
 void ItemDraft::ids(Key key, const std::vector<std::size_t>& offsets) {
-    (key == Key::Children ? children_ : holds_) = offsets;
+    lists_.emplace_back(relationOf(key), offsets);
 }
 
 std::optional<ItemKind> ItemDraft::kind(Faults& faults) const {
@@ -55,8 +35,8 @@ std::optional<ItemKind> ItemDraft::kind(Faults& faults) const {
     }
     const auto word = std::find(kItemKinds.begin(), kItemKinds.end(), *kind_);
     if (word == kItemKinds.end()) {
-        faults.addValue(kindOffset_, "unknown kind of item " + inQuotes(*kind_) +
-                                         R"(; expected "product", "assembly", "fastener" or "item")");
+        faults.addValue(kindOffset_, "unknown kind of item " + inQuotes(*kind_) + "; expected " +
+                                         alternatives({kItemKinds.begin(), kItemKinds.end()}));
         return std::nullopt;
     }
     return static_cast<ItemKind>(word - kItemKinds.begin());
@@ -65,9 +45,8 @@ std::optional<ItemKind> ItemDraft::kind(Faults& faults) const {
 void ItemDraft::checkKeys(ItemKind kind, Faults& faults) const {
     for (const KeyPlace& place : keys_) {
         if (!hasKey(kind, place.key)) {
-            faults.addValue(place.offset, '"' + std::string(keyName(Value::Item, place.key)) +
-                                              "\" on an item of kind \"" + std::string(kindText(kind)) +
-                                              "\", which has no such key");
+            faults.addValue(place.offset, '"' + std::string(keyName(place.key)) + "\" on an item of kind \"" +
+                                              std::string(kindText(kind)) + "\", which has no such key");
         }
     }
 }
@@ -88,23 +67,18 @@ void ItemDraft::make(Plan& plan, References& references, Faults& faults) {
 }
 
 void ItemDraft::fill(Item& item, References& references) {
-    if (name_) {
-        item.setName(std::move(*name_));
-    }
+    item.setName(std::move(name_));
     if (shape_) {
         item.setShape(std::move(*shape_));
     }
     if (place_) {
         item.setPlace(std::move(*place_));
     }
-    if (!notes_.empty()) {
-        item.setNotes(std::move(notes_));
-    }
-    if (auto* const product = dynamic_cast<Product*>(&item); product && children_) {
-        references.add(product->children, Wanted::ProductOccurrence, "children", *children_);
-    }
-    if (auto* const assembly = dynamic_cast<Assembly*>(&item); assembly && holds_) {
-        references.add(assembly->holds, Wanted::AnyItem, "holds", *holds_);
+    item.setNotes(std::move(notes_));
+    for (const auto& [relation, offsets] : lists_) {
+        if (listOf(item, relation)) {
+            references.add(item, relation, offsets);
+        }
     }
     if (auto* const fastener = dynamic_cast<Fastener*>(&item)) {
         fastener->type = std::move(type_);

@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace planner {
@@ -45,7 +46,7 @@ private:
     std::size_t idOffset_ = 0;
     std::size_t kindOffset_ = 0;
     std::optional<bool> assigned_;
-    std::optional<Offsets> children_, holds_;
+    std::vector<std::pair<Relation, Offsets>> lists_;
     std::optional<Shape> shape_;
     std::optional<Place> place_;
     std::string notes_;

@@ -1,6 +1,8 @@
 #include "planner/file/PlanBuilder.h"
 
 #include "planner/file/JsonText.h"
+#include "planner/file/SourceText.h"
+#include "planner/model/Contents.h"
 
 #include <algorithm>
 
@@ -13,33 +15,6 @@ Activity& activityOf(ModelObject* object) {
 }
 Resource& resourceOf(ModelObject* object) {
     return static_cast<Resource&>(*object);
-}
-Behaviour& behaviourOf(ModelObject* object) {
-    return static_cast<Behaviour&>(*object);
-}
-
-/// The list of activities that an activity or a behaviour contains.
-OptionalList<Activity*>& activitiesOf(ModelObject* container) {
-    return container->sort() == Sort::Activity ? activityOf(container).children : behaviourOf(container).activities;
-}
-
-ObjectList& itemListOf(ModelObject* owner, Key key) {
-    if (owner->sort() == Sort::Behaviour) {
-        return key == Key::Assigned ? behaviourOf(owner).assigned : behaviourOf(owner).outputs;
-    }
-    Activity& activity = activityOf(owner);
-    switch (key) {
-    case Key::FirstAssigned:
-        return activity.firstAssigned;
-    case Key::Assigned:
-        return activity.assigned;
-    case Key::Removed:
-        return activity.removed;
-    case Key::Items:
-        return activity.items;
-    default:
-        return activity.outputs;
-    }
 }
 
 } // namespace
@@ -57,7 +32,7 @@ ModelObject* PlanBuilder::begin(Value object, ModelObject* container) {
         return plan_.process();
     case Value::Activity: {
         Activity& activity = plan_.newActivity();
-        activitiesOf(container).add(&activity);
+        activitiesIn(*container)->add(&activity);
         activity.setParent(container->sort() == Sort::Activity ? &activityOf(container) : nullptr);
         return &activity;
     }
@@ -99,19 +74,15 @@ void PlanBuilder::beginList(Value list, ModelObject* owner) {
     } else if (list == Value::Links) {
         plan_.makeLinks();
     } else if (list == Value::Activities) {
-        activitiesOf(owner).make();
+        activitiesIn(*owner)->make();
     } else if (list == Value::ResourceChildren) {
         resourceOf(owner).children.make();
     }
 }
 
 void PlanBuilder::checkText(std::string_view value, std::size_t offset) {
-    const auto bad = std::find_if(value.begin(), value.end(), [](char letter) {
-        return static_cast<unsigned char>(letter) < 0x20 && letter != '\t' && letter != '\n' && letter != '\r';
-    });
-    if (bad != value.end()) {
-        faults_.addValue(offset, "the text " + inQuotes(value) +
-                                     " holds a control character; expected none but tab and line end");
+    if (holdsControlCharacter(value)) {
+        faults_.addValue(offset, "the text " + inQuotes(value) + kControlCharacterText);
     }
 }
 
@@ -137,16 +108,14 @@ void PlanBuilder::text(const ValuePlace& place, std::string value) {
 }
 
 void PlanBuilder::activityKind(Activity& activity, const ValuePlace& place, const std::string& word) {
-    constexpr const char* kRootKinds = R"("activity", "loading", "station" or "grouping")";
     const bool isRoot = place.object == Value::Process;
     const auto known = std::find(kActivityKinds.begin(), kActivityKinds.end(), word);
     const auto kind = static_cast<ActivityKind>(known - kActivityKinds.begin());
+    const std::string expected = "; expected " + alternatives({kActivityKinds.begin(), kActivityKinds.end() - isRoot});
     if (known == kActivityKinds.end()) {
-        faults_.addValue(place.offset,
-                         "unknown kind of activity " + inQuotes(word) + "; expected " +
-                             (isRoot ? kRootKinds : R"("activity", "loading", "station", "grouping" or "logical")"));
+        faults_.addValue(place.offset, "unknown kind of activity " + inQuotes(word) + expected);
     } else if (isRoot && kind == ActivityKind::Logical) {
-        faults_.addValue(place.offset, std::string("the root of the process is \"logical\"; expected ") + kRootKinds);
+        faults_.addValue(place.offset, "the root of the process is " + inQuotes(word) + expected);
     } else {
         activity.setKind(kind);
     }
@@ -156,7 +125,7 @@ void PlanBuilder::ids(const ValuePlace& place, const std::vector<std::size_t>& o
     if (place.object == Value::Item) {
         item_.ids(place.key, offsets);
     } else {
-        references_.add(itemListOf(place.owner, place.key), Wanted::AnyItem, keyName(place.object, place.key), offsets);
+        references_.add(*place.owner, relationOf(place.key), offsets);
     }
 }
 
@@ -164,7 +133,10 @@ void PlanBuilder::numbers(const ValuePlace& place, std::vector<double> values) {
     if (place.object == Value::Shape) {
         shape_.numbers(place.key, std::move(values), place.offset, faults_);
     } else {
-        item_.setPlace(makePlace(std::move(values), place.offset, faults_));
+        if (const auto fault = placeFault(values)) {
+            faults_.addValue(place.offset, *fault);
+        }
+        item_.setPlace(Place{std::move(values)});
     }
 }
 
@@ -181,7 +153,7 @@ void PlanBuilder::notes(const ValuePlace& place, std::string json) {
 }
 
 void PlanBuilder::resourceChild(ModelObject& owner, std::size_t offset) {
-    references_.add(resourceOf(&owner).children, Wanted::ProductItem, "children", {offset});
+    references_.add(owner, Relation::Children, {offset});
 }
 
 void PlanBuilder::finish(std::string_view text) {

@@ -1,61 +1,79 @@
 #include "planner/file/PlanGrammar.h"
 
+#include "planner/file/JsonText.h"
+
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace planner {
 
 namespace {
 
+/// The names of the keys, in the order of the enumeration. Relations and forms of shapes have theirs from the model.
+constexpr std::array<std::string_view, kKeyCount> kKeyNames{"activities",
+                                                            relationText(Relation::Assigned),
+                                                            "behaviour",
+                                                            ruleOf(Shape::Form::Box).key,
+                                                            relationText(Relation::Children),
+                                                            ruleOf(Shape::Form::Cylinder).key,
+                                                            relationText(Relation::FirstAssigned),
+                                                            relationText(Relation::Holds),
+                                                            "id",
+                                                            relationText(Relation::Items),
+                                                            "kind",
+                                                            "links",
+                                                            "name",
+                                                            "notes",
+                                                            relationText(Relation::Outputs),
+                                                            "part",
+                                                            "place",
+                                                            "plan",
+                                                            "process",
+                                                            relationText(Relation::Removed),
+                                                            "resources",
+                                                            "shape",
+                                                            ruleOf(Shape::Form::Sphere).key,
+                                                            ruleOf(Shape::Form::Step).key,
+                                                            "type",
+                                                            "version"};
+
+constexpr bool kRequired = true;
+
 const std::vector<KeyRule> kNoKeys;
 
-const std::vector<KeyRule> kDocumentKeys{{"plan", Key::Plan, Value::Text},
-                                         {"version", Key::Version, Value::Version},
-                                         {"items", Key::Items, Value::Items},
-                                         {"process", Key::Process, Value::Process},
-                                         {"resources", Key::Resources, Value::Resources},
-                                         {"links", Key::Links, Value::Links},
-                                         {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kDocumentKeys{{Key::Plan, Value::Text},       {Key::Version, Value::Version, kRequired},
+                                         {Key::Notes, Value::Notes},     {Key::Items, Value::Items},
+                                         {Key::Process, Value::Process}, {Key::Resources, Value::Resources},
+                                         {Key::Links, Value::Links}};
 
-const std::vector<KeyRule> kItemKeys{{"id", Key::Id, Value::Text},
-                                     {"kind", Key::Kind, Value::Text},
-                                     {"name", Key::Name, Value::Text},
-                                     {"type", Key::Type, Value::Text},
-                                     {"assigned", Key::Assigned, Value::Flag},
-                                     {"children", Key::Children, Value::Ids},
-                                     {"holds", Key::Holds, Value::Ids},
-                                     {"shape", Key::Shape, Value::Shape},
-                                     {"place", Key::Place, Value::Numbers},
-                                     {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kItemKeys{{Key::Id, Value::Text, kRequired}, {Key::Name, Value::Text},
+                                     {Key::Notes, Value::Notes},        {Key::Kind, Value::Text, kRequired},
+                                     {Key::Type, Value::Text},          {Key::Assigned, Value::Flag},
+                                     {Key::Children, Value::Ids},       {Key::Holds, Value::Ids},
+                                     {Key::Shape, Value::Shape},        {Key::Place, Value::Numbers}};
 
-const std::vector<KeyRule> kShapeKeys{
-    {"box", Key::Box, Value::Numbers},       {"cylinder", Key::Cylinder, Value::Numbers},
-    {"sphere", Key::Sphere, Value::Numbers}, {"step", Key::Step, Value::Text},
-    {"part", Key::Part, Value::Text},        {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kShapeKeys{{Key::Box, Value::Numbers},    {Key::Cylinder, Value::Numbers},
+                                      {Key::Sphere, Value::Numbers}, {Key::Step, Value::Text},
+                                      {Key::Part, Value::Text},      {Key::Notes, Value::Notes}};
 
-const std::vector<KeyRule> kActivityKeys{{"id", Key::Id, Value::Text},
-                                         {"name", Key::Name, Value::Text},
-                                         {"kind", Key::Kind, Value::Text},
-                                         {"type", Key::Type, Value::Text},
-                                         {"first_assigned", Key::FirstAssigned, Value::Ids},
-                                         {"assigned", Key::Assigned, Value::Ids},
-                                         {"removed", Key::Removed, Value::Ids},
-                                         {"items", Key::Items, Value::Ids},
-                                         {"outputs", Key::Outputs, Value::Ids},
-                                         {"children", Key::Children, Value::Activities},
-                                         {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kActivityKeys{
+    {Key::Id, Value::Text, kRequired}, {Key::Name, Value::Text},          {Key::Notes, Value::Notes},
+    {Key::Kind, Value::Text},          {Key::Type, Value::Text},          {Key::FirstAssigned, Value::Ids},
+    {Key::Assigned, Value::Ids},       {Key::Removed, Value::Ids},        {Key::Items, Value::Ids},
+    {Key::Outputs, Value::Ids},        {Key::Children, Value::Activities}};
 
-const std::vector<KeyRule> kResourceKeys{{"id", Key::Id, Value::Text},
-                                         {"name", Key::Name, Value::Text},
-                                         {"behaviour", Key::Behaviour, Value::Behaviour},
-                                         {"children", Key::Children, Value::ResourceChildren},
-                                         {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kResourceKeys{{Key::Id, Value::Text, kRequired},
+                                         {Key::Name, Value::Text},
+                                         {Key::Notes, Value::Notes},
+                                         {Key::Behaviour, Value::Behaviour},
+                                         {Key::Children, Value::ResourceChildren}};
 
-const std::vector<KeyRule> kBehaviourKeys{{"id", Key::Id, Value::Text},
-                                          {"activities", Key::Activities, Value::Activities},
-                                          {"assigned", Key::Assigned, Value::Ids},
-                                          {"outputs", Key::Outputs, Value::Ids},
-                                          {"notes", Key::Notes, Value::Notes}};
+const std::vector<KeyRule> kBehaviourKeys{{Key::Id, Value::Text},
+                                          {Key::Notes, Value::Notes},
+                                          {Key::Assigned, Value::Ids},
+                                          {Key::Outputs, Value::Ids},
+                                          {Key::Activities, Value::Activities}};
 
 /// How each value is written, and what messages call it, in the order of the enumeration.
 struct ValueRule {
@@ -119,39 +137,63 @@ const std::vector<KeyRule>& keysOf(Value object) {
 
 const KeyRule* findKey(Value object, std::string_view name) {
     const auto& keys = keysOf(object);
-    const auto place = std::find_if(keys.begin(), keys.end(), [&](const KeyRule& rule) { return rule.name == name; });
-    return place == keys.end() ? nullptr : &*place;
+    const auto rule =
+        std::find_if(keys.begin(), keys.end(), [&](const KeyRule& each) { return keyName(each.key) == name; });
+    return rule == keys.end() ? nullptr : &*rule;
 }
 
-std::string_view keyName(Value object, Key key) {
-    const auto& keys = keysOf(object);
-    return std::find_if(keys.begin(), keys.end(), [&](const KeyRule& rule) { return rule.key == key; })->name;
+std::string_view keyName(Key key) {
+    return kKeyNames[static_cast<std::size_t>(key)];
 }
 
-bool isRequired(Value object, Key key) {
-    switch (object) {
-    case Value::Document:
-        return key == Key::Version;
-    case Value::Item:
-        return key == Key::Id || key == Key::Kind;
-    case Value::Process:
-    case Value::Activity:
-    case Value::Resource:
-    case Value::ResourceChild:
-        return key == Key::Id;
+Relation relationOf(Key key) {
+    switch (key) {
+    case Key::FirstAssigned:
+        return Relation::FirstAssigned;
+    case Key::Assigned:
+        return Relation::Assigned;
+    case Key::Removed:
+        return Relation::Removed;
+    case Key::Items:
+        return Relation::Items;
+    case Key::Outputs:
+        return Relation::Outputs;
+    case Key::Children:
+        return Relation::Children;
     default:
-        return false;
+        return Relation::Holds;
     }
+}
+
+bool hasKey(ItemKind kind, Key key) {
+    switch (key) {
+    case Key::Children:
+        return kind == ItemKind::Product || kind == ItemKind::Assembly;
+    case Key::Holds:
+        return kind == ItemKind::Assembly;
+    case Key::Type:
+    case Key::Assigned:
+        return kind == ItemKind::Fastener;
+    default:
+        return true;
+    }
+}
+
+std::string alternatives(const std::vector<std::string_view>& words) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        text += i == 0 ? "" : i + 1 == words.size() ? " or " : ", ";
+        text += '"' + std::string(words[i]) + '"';
+    }
+    return text;
 }
 
 std::string keyNames(Value object) {
-    const auto& keys = keysOf(object);
-    std::string names;
-    for (const KeyRule& rule : keys) {
-        names += &rule == &keys.front() ? "" : &rule == &keys.back() ? " or " : ", ";
-        names += '"' + std::string(rule.name) + '"';
+    std::vector<std::string_view> names;
+    for (const KeyRule& rule : keysOf(object)) {
+        names.push_back(keyName(rule.key));
     }
-    return names;
+    return alternatives(names);
 }
 
 Value entryOf(Value list) {
@@ -180,6 +222,31 @@ bool accepts(Value expected, JsonType type) {
 
 const char* valueText(Value expected) {
     return ruleOf(expected).text;
+}
+
+std::optional<std::string> sizesFault(const FormRule& form, const std::vector<double>& sizes) {
+    const std::string key = '"' + std::string(form.key) + '"';
+    if (sizes.size() != form.sizes) {
+        return key + " has " + std::to_string(sizes.size()) + " numbers; expected " + std::to_string(form.sizes);
+    }
+    for (const double size : sizes) {
+        if (!std::isfinite(size) || size <= 0) {
+            return key + " has the size " + jsonNumber(size) + "; expected sizes above 0";
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> placeFault(const std::vector<double>& numbers) {
+    if (numbers.size() != 3 && numbers.size() != 6) {
+        return "\"place\" has " + std::to_string(numbers.size()) + " numbers; expected 3, or 6 with the turns";
+    }
+    for (const double number : numbers) {
+        if (!std::isfinite(number)) {
+            return "\"place\" has the number " + jsonNumber(number) + "; expected finite ones";
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace planner

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "planner/model/Geometry.h"
+#include "planner/model/Kinds.h"
+#include "planner/model/Relation.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -69,26 +74,32 @@ enum class Key : std::uint8_t {
     Version
 };
 
-/// A key that an object may have.
+inline constexpr std::size_t kKeyCount = 26;
+
+/// A key that an object may have, or must.
 struct KeyRule {
-    std::string_view name;
     Key key;
     Value value;
+    bool isRequired = false;
 };
 
-/// The keys of an object; empty for what is no object.
+/// The keys of an object, in the order in which they are written; empty for what is no object.
 const std::vector<KeyRule>& keysOf(Value object);
 
 /// The rule for a key of an object, null when it has no such key.
 const KeyRule* findKey(Value object, std::string_view name);
 
-/// The name of a key that the object has.
-std::string_view keyName(Value object, Key key);
+/// The name of a key, and the relation of a key that names a list of ids.
+std::string_view keyName(Key key);
+Relation relationOf(Key key);
 
-/// Whether an object must have the key.
-bool isRequired(Value object, Key key);
+/// Whether items of that kind have the key, which is one of an item.
+bool hasKey(ItemKind kind, Key key);
 
-/// "\"id\", \"kind\" or \"name\"": the keys of an object for a message.
+/// "\"a\", \"b\" or \"c\"": words for a message.
+std::string alternatives(const std::vector<std::string_view>& words);
+
+/// The same of the keys of an object.
 std::string keyNames(Value object);
 
 /// What the entries of a list are.
@@ -99,5 +110,11 @@ bool accepts(Value expected, JsonType type);
 
 /// "a list of ids", say: what a message calls it.
 const char* valueText(Value expected);
+
+/// What is wrong with the sizes of a form, or with the numbers of a place; nothing when they are right.
+std::optional<std::string> sizesFault(const FormRule& form, const std::vector<double>& sizes);
+std::optional<std::string> placeFault(const std::vector<double>& numbers);
+
+inline constexpr const char* kPartWithoutFile = R"("part" in a shape that is no file; expected it beside "step")";
 
 } // namespace planner

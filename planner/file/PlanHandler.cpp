@@ -138,9 +138,9 @@ bool PlanHandler::end_array() {
 void PlanHandler::checkRequired(const Frame& frame) {
     for (const KeyRule& rule : keysOf(frame.value)) {
         const auto bit = std::uint32_t{1} << static_cast<unsigned>(rule.key);
-        if ((frame.seen & bit) == 0 && isRequired(frame.value, rule.key)) {
+        if ((frame.seen & bit) == 0 && rule.isRequired) {
             faults_.addValue(frame.offset,
-                             '"' + std::string(rule.name) + "\" is missing; expected " + valueText(rule.value));
+                             '"' + std::string(keyName(rule.key)) + "\" is missing; expected " + valueText(rule.value));
         }
     }
 }
@@ -192,7 +192,7 @@ std::optional<Value> PlanHandler::admit(JsonType type) {
 std::string PlanHandler::label() const {
     for (auto frame = frames_.rbegin(); frame != frames_.rend(); ++frame) {
         if (frame->rule) {
-            return (frame == frames_.rbegin() ? " for \"" : " in \"") + std::string(frame->rule->name) + '"';
+            return (frame == frames_.rbegin() ? " for \"" : " in \"") + std::string(keyName(frame->rule->key)) + '"';
         }
     }
     return "";
@@ -233,7 +233,7 @@ bool PlanHandler::closeAside(char bracket) {
         return false;
     }
     notes_->close(bracket, faults_);
-    if (notes_->done()) {
+    if (notes_->done() && !frames_.empty()) {
         endNotes();
     }
     return true;

@@ -22,6 +22,10 @@ public:
     PlanHandler(TokenPlaces& places, PlanBuilder& builder, Faults& faults)
         : places_(places), builder_(builder), faults_(faults) {}
 
+    /// Takes the text for one value under "notes" instead of a plan; and that value as it was taken down.
+    void expectNotes() { notes_.emplace(); }
+    std::string takeNotes() { return notes_->take(); }
+
     bool null() override;
     bool boolean(bool value) override;
     bool number_integer(number_integer_t value) override { return number(static_cast<double>(value)); }

@@ -44,4 +44,21 @@ ReadResult parsePlan(std::string_view text, const std::string& name, const std::
     return {std::move(plan), {}};
 }
 
+std::optional<std::string> orderNotes(std::string& json) {
+    Faults faults;
+    if (const auto fault = findEncodingFault(json)) {
+        faults.addSyntax(fault->offset, fault->message);
+    } else {
+        Plan none;
+        PlanBuilder builder(none, faults);
+        TokenPlaces places(json, 0);
+        PlanHandler handler(places, builder, faults);
+        handler.expectNotes();
+        if (nlohmann::json::sax_parse(places.begin(), places.end(), &handler) && faults.empty()) {
+            json = handler.takeNotes();
+        }
+    }
+    return faults.empty() ? std::nullopt : std::optional(faults.lines("notes", json).front());
+}
+
 } // namespace planner

@@ -3,6 +3,7 @@
 #include "planner/model/Plan.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,5 +22,9 @@ ReadResult readPlan(const std::string& path);
 /// Reads a plan from its text. The name goes in front of errors; the title is what the plan is called when it doesn't
 /// say so itself.
 ReadResult parsePlan(std::string_view text, const std::string& name, const std::string& title);
+
+/// Puts a JSON value into the form in which a plan keeps notes: blanks between its parts in order. Gives what is wrong
+/// with it, and leaves it alone then.
+std::optional<std::string> orderNotes(std::string& json);
 
 } // namespace planner

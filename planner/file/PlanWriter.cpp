@@ -1,9 +1,12 @@
-// Activities and resources nest to any depth, so the objects whose lists are open wait on a stack of their own.
+// The grammar gives the keys of each kind of object and their order; what is written here is the value of each.
 
 #include "planner/file/PlanWriter.h"
 
 #include "planner/file/FileReplacement.h"
 #include "planner/file/JsonText.h"
+#include "planner/file/PlanGrammar.h"
+
+#include "QORPlatform/framework/QORDeepStack.h"
 
 namespace planner {
 
@@ -11,111 +14,120 @@ namespace {
 
 class Writer {
 public:
-    Writer(const Plan& plan, TextSink& sink) : plan_(plan), sink_(sink) {}
+    explicit Writer(TextSink& sink) : sink_(sink) {}
 
-    void write();
+    void document(const Plan& plan);
 
 private:
-    /// An object whose nested objects are being written; without one, the plan's list of resources.
-    struct Open {
-        const ModelObject* owner;
-        const Resource* resource = nullptr; // of a behaviour: the resource that goes on behind it
-        std::size_t next = 0;
-    };
+    template <class Put>
+    void object(Value value, Put put);
+    template <class List, class Put>
+    void lines(const KeyRule& rule, const List& list, Put put);
 
-    void topKey(const char* name);
-    void key(const char* name);
-    void text(const char* name, const std::string& value);
-    void notes(const std::string& json);
-    void idList(const char* name, const ObjectList& list);
-    void numbers(const char* name, const std::vector<double>& values);
-    void header(const ModelObject& object);
+    void key(const KeyRule& rule);
+    void text(const KeyRule& rule, std::string_view value);
+    void optionalText(const KeyRule& rule, const std::optional<std::string>& value);
+    void notes(const KeyRule& rule, const std::string& json);
+    void ids(const KeyRule& rule, const ObjectList& list);
+    void numbers(const KeyRule& rule, const std::vector<double>& values);
 
-    void items();
+    void documentKey(const KeyRule& rule, const Plan& plan);
     void item(const Item& item);
-    void shape(const Shape& shape);
-    void links();
-
-    const ModelObject* entryAt(const ModelObject* owner, std::size_t position) const;
-    void nestedList(Open open);
-    void entry(const ModelObject& object);
+    void itemKey(const KeyRule& rule, const Item& item);
+    void shapeKey(const KeyRule& rule, const Shape& shape);
+    void link(const Link& link);
     void activity(const Activity& activity);
+    void activities(const KeyRule& rule, const OptionalList<Activity*>& list);
     void resource(const Resource& resource);
-    void resourceEnd(const Resource& resource);
-    void finishNested();
-    void closeNested();
+    void behaviour(const Behaviour& behaviour);
+    void resourceChild(const ModelObject& child);
+    void commonKey(const KeyRule& rule, const ModelObject& object);
 
-    const Plan& plan_;
     TextSink& sink_;
-    std::vector<Open> open_;
-    bool first_ = true; // whether the next key is the first of its object
+    std::size_t level_ = 1; // of the line that is being written
+    bool first_ = true;     // whether the next key is the first of its object
 };
 
-void Writer::write() {
+void Writer::document(const Plan& plan) {
     sink_.put('{');
-    if (plan_.ownTitle) {
-        topKey("plan");
-        putJson(sink_, *plan_.ownTitle);
-    }
-    topKey("version");
-    sink_.put('1');
-    if (!plan_.notes.empty()) {
-        topKey("notes");
-        sink_.put(plan_.notes);
-    }
-    if (plan_.items.present()) {
-        items();
-    }
-    if (!plan_.processIsDefault()) {
-        topKey("process");
-        activity(*plan_.process());
-        finishNested();
-        first_ = false;
-    }
-    if (plan_.resources.present()) {
-        topKey("resources");
-        nestedList({nullptr});
-        finishNested();
-        first_ = false;
-    }
-    if (plan_.links().present()) {
-        links();
+    for (const KeyRule& rule : keysOf(Value::Document)) {
+        documentKey(rule, plan);
     }
     sink_.newLine(0);
     sink_.put("}\n");
 }
 
-void Writer::topKey(const char* name) {
-    sink_.put(first_ ? "" : ",");
-    sink_.newLine(1);
+/// An object, for which put(rule) writes each key that it has.
+template <class Put>
+void Writer::object(Value value, Put put) {
+    sink_.put('{');
     first_ = true;
-    key(name);
+    for (const KeyRule& rule : keysOf(value)) {
+        put(rule);
+    }
+    sink_.put('}');
+    first_ = false;
 }
 
-void Writer::key(const char* name) {
-    sink_.put(first_ ? "" : ", ");
+/// A list with each entry on a line of its own, where put(entry) writes it; nothing for an absent list.
+template <class List, class Put>
+void Writer::lines(const KeyRule& rule, const List& list, Put put) {
+    if (!list.present()) {
+        return;
+    }
+    key(rule);
+    ++level_;
+    const char* separator = "[";
+    for (const auto& entry : list) {
+        sink_.put(separator);
+        separator = ",";
+        sink_.newLine(level_);
+        put(entry);
+    }
+    --level_;
+    if (list.empty()) {
+        sink_.put('[');
+    } else {
+        sink_.newLine(level_);
+    }
+    sink_.put(']');
+}
+
+/// A key; those of the document begin lines.
+void Writer::key(const KeyRule& rule) {
+    const bool beginsLine = &rule >= keysOf(Value::Document).data() && &rule <= &keysOf(Value::Document).back();
+    sink_.put(first_ ? "" : beginsLine ? "," : ", ");
+    if (beginsLine) {
+        sink_.newLine(level_);
+    }
     first_ = false;
-    putJson(sink_, name);
+    putJson(sink_, keyName(rule.key));
     sink_.put(": ");
 }
 
-void Writer::text(const char* name, const std::string& value) {
-    key(name);
+void Writer::text(const KeyRule& rule, std::string_view value) {
+    key(rule);
     putJson(sink_, value);
 }
 
-void Writer::notes(const std::string& json) {
+void Writer::optionalText(const KeyRule& rule, const std::optional<std::string>& value) {
+    if (value) {
+        text(rule, *value);
+    }
+}
+
+void Writer::notes(const KeyRule& rule, const std::string& json) {
     if (!json.empty()) {
-        key("notes");
+        key(rule);
         sink_.put(json);
     }
 }
 
-void Writer::idList(const char* name, const ObjectList& list) {
+void Writer::ids(const KeyRule& rule, const ObjectList& list) {
     if (!list.present()) {
         return;
     }
-    key(name);
+    key(rule);
     const char* separator = "[";
     for (const ModelObject* object : list) {
         sink_.put(separator);
@@ -125,8 +137,8 @@ void Writer::idList(const char* name, const ObjectList& list) {
     sink_.put(list.empty() ? "[]" : "]");
 }
 
-void Writer::numbers(const char* name, const std::vector<double>& values) {
-    key(name);
+void Writer::numbers(const KeyRule& rule, const std::vector<double>& values) {
+    key(rule);
     const char* separator = "[";
     for (const double value : values) {
         sink_.put(separator);
@@ -136,213 +148,145 @@ void Writer::numbers(const char* name, const std::vector<double>& values) {
     sink_.put(']');
 }
 
-/// What all objects have, up to the keys of their sort.
-void Writer::header(const ModelObject& object) {
-    sink_.put('{');
-    first_ = true;
-    if (!object.id().empty()) {
-        text("id", object.id());
+void Writer::documentKey(const KeyRule& rule, const Plan& plan) {
+    switch (rule.key) {
+    case Key::Plan:
+        return optionalText(rule, plan.ownTitle);
+    case Key::Notes:
+        return notes(rule, plan.notes);
+    case Key::Items:
+        return lines(rule, plan.items, [this](const Item* each) { item(*each); });
+    case Key::Process:
+        if (!plan.processIsDefault()) {
+            key(rule);
+            activity(*plan.process());
+        }
+        return;
+    case Key::Resources:
+        return lines(rule, plan.resources, [this](const Resource* each) { resource(*each); });
+    case Key::Links:
+        return lines(rule, plan.links(), [this](const Link& each) { link(each); });
+    default:
+        key(rule);
+        sink_.put('1'); // the version
     }
-    if (object.hasOwnName()) {
-        text("name", object.name());
-    }
-    notes(object.notes());
-}
-
-void Writer::items() {
-    topKey("items");
-    const char* separator = "[";
-    for (const Item* each : plan_.items) {
-        sink_.put(separator);
-        separator = ",";
-        sink_.newLine(2);
-        item(*each);
-    }
-    if (!plan_.items.empty()) {
-        sink_.newLine(1);
-    }
-    sink_.put(plan_.items.empty() ? "[]" : "]");
-    first_ = false;
 }
 
 void Writer::item(const Item& item) {
-    header(item);
-    text("kind", std::string(kindText(item.kind())));
-    if (const auto* const fastener = dynamic_cast<const Fastener*>(&item)) {
-        if (fastener->type) {
-            text("type", *fastener->type);
-        }
-        if (fastener->assigned) {
-            key("assigned");
+    object(Value::Item, [&](const KeyRule& rule) { itemKey(rule, item); });
+}
+
+void Writer::itemKey(const KeyRule& rule, const Item& item) {
+    const auto* const fastener = dynamic_cast<const Fastener*>(&item);
+    switch (rule.key) {
+    case Key::Kind:
+        return text(rule, kindText(item.kind()));
+    case Key::Type:
+        return optionalText(rule, fastener ? fastener->type : std::nullopt);
+    case Key::Assigned:
+        if (fastener && fastener->assigned) {
+            key(rule);
             sink_.put(*fastener->assigned ? "true" : "false");
         }
-    }
-    if (const auto* const product = dynamic_cast<const Product*>(&item)) {
-        idList("children", product->children);
-    }
-    if (const auto* const assembly = dynamic_cast<const Assembly*>(&item)) {
-        idList("holds", assembly->holds);
-    }
-    if (item.geometry().shape) {
-        shape(*item.geometry().shape);
-    }
-    if (item.geometry().place) {
-        numbers("place", item.geometry().place->numbers);
-    }
-    sink_.put('}');
-}
-
-void Writer::shape(const Shape& shape) {
-    key("shape");
-    sink_.put('{');
-    first_ = true;
-    for (const FormRule& form : kForms) {
-        if (form.form == shape.form && form.sizes > 0) {
-            numbers(std::string(form.key).c_str(), shape.sizes);
+        return;
+    case Key::Shape:
+        if (const auto& shape = item.geometry().shape) {
+            key(rule);
+            object(Value::Shape, [&](const KeyRule& inner) { shapeKey(inner, *shape); });
         }
+        return;
+    case Key::Place:
+        if (const auto& place = item.geometry().place) {
+            numbers(rule, place->numbers);
+        }
+        return;
+    default:
+        commonKey(rule, item);
     }
-    if (shape.form == Shape::Form::Step) {
-        text("step", shape.file);
-    }
-    if (shape.part) {
-        text("part", *shape.part);
-    }
-    notes(shape.notes);
-    sink_.put('}');
-    first_ = false;
 }
 
-void Writer::links() {
-    topKey("links");
-    const char* separator = "[";
-    for (const Link& link : plan_.links()) {
-        sink_.put(separator);
-        separator = ",";
-        sink_.newLine(2);
-        sink_.put('[');
-        putJson(sink_, link.from->id());
-        sink_.put(", ");
-        putJson(sink_, link.to->id());
-        sink_.put(']');
+void Writer::shapeKey(const KeyRule& rule, const Shape& shape) {
+    if (rule.key == Key::Notes) {
+        notes(rule, shape.notes);
+    } else if (rule.key == Key::Part) {
+        optionalText(rule, shape.part);
+    } else if (keyName(rule.key) == ruleOf(shape.form).key) {
+        shape.form == Shape::Form::Step ? text(rule, shape.file) : numbers(rule, shape.sizes);
     }
-    if (!plan_.links().empty()) {
-        sink_.newLine(1);
-    }
-    sink_.put(plan_.links().empty() ? "[]" : "]");
 }
 
-/// The nested object at a position of what the owner contains, null behind the last one.
-const ModelObject* Writer::entryAt(const ModelObject* owner, std::size_t position) const {
-    const auto at = [position](const auto& list) -> const ModelObject* {
-        return position < list.size() ? list.entries()[position] : nullptr;
-    };
-    if (!owner) {
-        return at(plan_.resources);
-    }
-    if (owner->sort() == Sort::Activity) {
-        return at(static_cast<const Activity*>(owner)->children);
-    }
-    return owner->sort() == Sort::Behaviour ? at(static_cast<const Behaviour*>(owner)->activities)
-                                            : at(static_cast<const Resource*>(owner)->children);
-}
-
-/// Begins a list of nested objects: the stack goes on with it and ends its owner. An empty list is ended at once.
-void Writer::nestedList(Open open) {
+void Writer::link(const Link& link) {
     sink_.put('[');
-    open_.push_back(open);
-    if (!entryAt(open.owner, 0)) {
-        closeNested();
-    }
-}
-
-void Writer::finishNested() {
-    while (!open_.empty()) {
-        Open& open = open_.back();
-        if (const ModelObject* const next = entryAt(open.owner, open.next)) {
-            sink_.put(open.next++ == 0 ? "" : ",");
-            sink_.newLine(open_.size() + 1);
-            entry(*next);
-        } else {
-            sink_.newLine(open_.size());
-            closeNested();
-        }
-    }
-}
-
-void Writer::closeNested() {
-    const Open closed = open_.back();
-    open_.pop_back();
-    sink_.put(closed.owner ? "]}" : "]");
-    if (closed.resource) {
-        resourceEnd(*closed.resource);
-    }
-}
-
-void Writer::entry(const ModelObject& object) {
-    if (object.sort() == Sort::Item) {
-        putJson(sink_, object.id());
-    } else if (object.sort() == Sort::Activity) {
-        activity(static_cast<const Activity&>(object));
-    } else {
-        resource(static_cast<const Resource&>(object));
-    }
+    putJson(sink_, link.from->id());
+    sink_.put(", ");
+    putJson(sink_, link.to->id());
+    sink_.put(']');
 }
 
 void Writer::activity(const Activity& activity) {
-    header(activity);
-    if (activity.hasOwnKind()) {
-        text("kind", std::string(kindText(activity.kind())));
-    }
-    if (activity.hasOwnType()) {
-        text("type", activity.type());
-    }
-    idList("first_assigned", activity.firstAssigned);
-    idList("assigned", activity.assigned);
-    idList("removed", activity.removed);
-    idList("items", activity.items);
-    idList("outputs", activity.outputs);
-    if (activity.children.present()) {
-        key("children");
-        nestedList({&activity});
-    } else {
-        sink_.put('}');
-    }
+    object(Value::Activity, [&](const KeyRule& rule) {
+        switch (rule.key) {
+        case Key::Kind:
+            return optionalText(rule, activity.ownKind() ? std::optional(std::string(kindText(activity.kind())))
+                                                         : std::nullopt);
+        case Key::Type:
+            return optionalText(rule, activity.ownType());
+        case Key::Children:
+            return activities(rule, activity.children);
+        default:
+            return commonKey(rule, activity);
+        }
+    });
+}
+
+void Writer::activities(const KeyRule& rule, const OptionalList<Activity*>& list) {
+    lines(rule, list, [this](const Activity* each) { QORCallDeep([&] { activity(*each); }); });
 }
 
 void Writer::resource(const Resource& resource) {
-    header(resource);
-    const Behaviour* const behaviour = resource.behaviour();
-    if (!behaviour) {
-        resourceEnd(resource);
-        return;
-    }
-    key("behaviour");
-    header(*behaviour);
-    idList("assigned", behaviour->assigned);
-    idList("outputs", behaviour->outputs);
-    if (behaviour->activities.present()) {
-        key("activities");
-        nestedList({behaviour, &resource});
+    object(Value::Resource, [&](const KeyRule& rule) {
+        if (rule.key == Key::Children) {
+            lines(rule, resource.children, [this](const ModelObject* each) { resourceChild(*each); });
+        } else if (rule.key != Key::Behaviour) {
+            commonKey(rule, resource);
+        } else if (resource.behaviour()) {
+            key(rule);
+            behaviour(*resource.behaviour());
+        }
+    });
+}
+
+void Writer::behaviour(const Behaviour& behaviour) {
+    object(Value::Behaviour, [&](const KeyRule& rule) {
+        rule.key == Key::Activities ? activities(rule, behaviour.activities) : commonKey(rule, behaviour);
+    });
+}
+
+void Writer::resourceChild(const ModelObject& child) {
+    if (child.sort() == Sort::Item) {
+        putJson(sink_, child.id());
     } else {
-        sink_.put('}');
-        resourceEnd(resource);
+        QORCallDeep([&] { resource(static_cast<const Resource&>(child)); });
     }
 }
 
-void Writer::resourceEnd(const Resource& resource) {
-    first_ = false; // its id stands there, whatever came behind it
-    if (resource.children.present()) {
-        key("children");
-        nestedList({&resource});
-    } else {
-        sink_.put('}');
+/// The keys that mean the same wherever they stand, lists of ids among them.
+void Writer::commonKey(const KeyRule& rule, const ModelObject& object) {
+    if (rule.key == Key::Id) {
+        object.id().empty() ? void() : text(rule, object.id());
+    } else if (rule.key == Key::Name) {
+        object.hasOwnName() ? text(rule, object.name()) : void();
+    } else if (rule.key == Key::Notes) {
+        notes(rule, object.notes());
+    } else if (const ObjectList* const list = listOf(object, relationOf(rule.key))) {
+        ids(rule, *list);
     }
 }
 
 } // namespace
 
 void writePlan(const Plan& plan, TextSink& sink) {
-    Writer(plan, sink).write();
+    Writer(sink).document(plan);
 }
 
 std::optional<std::string> writePlanFile(const Plan& plan, const std::string& path) {

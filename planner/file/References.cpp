@@ -4,8 +4,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <array>
-
 namespace planner {
 
 namespace {
@@ -23,29 +21,6 @@ std::string_view textAt(std::string_view text, std::size_t offset, std::string& 
     return decoded;
 }
 
-const char* wantedText(Wanted wanted) {
-    constexpr std::array<const char*, 4> kTexts{"an item", "a product, an assembly with \"children\", or a resource",
-                                                "a product, or an assembly with \"children\"",
-                                                "an activity, a resource or a behaviour"};
-    return kTexts[static_cast<std::size_t>(wanted)];
-}
-
-bool isOfSort(const ModelObject& object, Wanted wanted) {
-    const Sort sort = object.sort();
-    const bool isProduct = sort == Sort::Item && static_cast<const Item&>(object).answersProduct();
-    switch (wanted) {
-    case Wanted::AnyItem:
-        return sort == Sort::Item;
-    case Wanted::ProductOccurrence:
-        return isProduct || sort == Sort::Resource;
-    case Wanted::ProductItem:
-        return isProduct;
-    case Wanted::FlowEnd:
-        break;
-    }
-    return sort != Sort::Item;
-}
-
 std::string description(const ModelObject& object) {
     if (object.sort() != Sort::Item) {
         return sortText(object.sort());
@@ -55,9 +30,10 @@ std::string description(const ModelObject& object) {
 
 } // namespace
 
-void References::add(ObjectList& list, Wanted wanted, std::string_view key, const std::vector<std::size_t>& offsets) {
+void References::add(ModelObject& owner, Relation relation, const std::vector<std::size_t>& offsets) {
+    ObjectList& list = *listOf(owner, relation);
     auto& slots = list.make();
-    entries_.push_back({&list, key, slots.size(), offsets.size(), wanted});
+    entries_.push_back({&list, slots.size(), offsets.size(), relation, wantedIn(relation, owner.sort())});
     slots.resize(slots.size() + offsets.size());
     offsets_.insert(offsets_.end(), offsets.begin(), offsets.end());
 }
@@ -75,7 +51,7 @@ void References::resolve(std::string_view text, Plan& plan, Faults& faults) {
     for (const Entry& entry : entries_) {
         auto& slots = entry.list->make();
         for (std::size_t i = 0; i < entry.count; ++i) {
-            slots[entry.firstSlot + i] = find(*offset++, entry.wanted, entry.key);
+            slots[entry.firstSlot + i] = find(*offset++, entry.wanted, relationText(entry.relation));
         }
     }
     for (std::size_t i = 0; i < links_.size(); i += 2) {
@@ -98,7 +74,7 @@ ModelObject* References::find(std::size_t offset, Wanted wanted, std::string_vie
     if (!object && !skipped_.contains(std::string(id))) {
         report("not in this plan");
     }
-    if (object && !isOfSort(*object, wanted) && !doubtful_.contains(object)) {
+    if (object && !fits(*object, wanted) && !doubtful_.contains(object)) {
         report(description(*object));
     }
     return object;

@@ -2,6 +2,7 @@
 
 #include "planner/file/Faults.h"
 #include "planner/model/Plan.h"
+#include "planner/model/Relation.h"
 
 #include <cstdint>
 #include <string>
@@ -11,19 +12,11 @@
 
 namespace planner {
 
-/// What a reference may name.
-enum class Wanted : std::uint8_t {
-    AnyItem,
-    ProductOccurrence, ///< whatever answers QORIProduct
-    ProductItem,       ///< an item that answers QORIProduct
-    FlowEnd            ///< an activity, a resource, a behaviour
-};
-
 /// The ids that a file names, kept as places in its text until all objects are known.
 class References {
 public:
-    /// Makes room for ids at the end of the list, which must stay where it is until resolve. The key is for messages.
-    void add(ObjectList& list, Wanted wanted, std::string_view key, const std::vector<std::size_t>& offsets);
+    /// Makes room for ids at the end of a list that the owner has, which must stay where it is until resolve.
+    void add(ModelObject& owner, Relation relation, const std::vector<std::size_t>& offsets);
     void addLink(std::size_t from, std::size_t to);
 
     /// Leaves the sort of an object out of the checks, since its own entry is faulty.
@@ -38,9 +31,9 @@ public:
 private:
     struct Entry {
         ObjectList* list;
-        std::string_view key;
         std::size_t firstSlot;
         std::size_t count;
+        Relation relation;
         Wanted wanted;
     };
 

@@ -1,28 +1,23 @@
 #include "planner/file/ShapeDraft.h"
 
-#include "planner/file/JsonText.h"
-
 #include <algorithm>
 
 namespace planner {
 
 namespace {
 
-constexpr const char* kFormNames = R"("box", "cylinder", "sphere" or "step")";
+std::string formNames() {
+    std::vector<std::string_view> names;
+    for (const FormRule& form : kForms) {
+        names.push_back(form.key);
+    }
+    return alternatives(names);
+}
 
 const FormRule* findForm(Key key) {
-    switch (key) {
-    case Key::Box:
-        return &planner::kForms[0];
-    case Key::Cylinder:
-        return &planner::kForms[1];
-    case Key::Sphere:
-        return &planner::kForms[2];
-    case Key::Step:
-        return &planner::kForms[3];
-    default:
-        return nullptr;
-    }
+    const auto form =
+        std::find_if(kForms.begin(), kForms.end(), [&](const FormRule& each) { return each.key == keyName(key); });
+    return form == kForms.end() ? nullptr : &*form;
 }
 
 } // namespace
@@ -30,7 +25,7 @@ const FormRule* findForm(Key key) {
 void ShapeDraft::keySeen(Key key, std::size_t offset, Faults& faults) {
     const FormRule* const form = findForm(key);
     if (form && hasForm_) {
-        faults.addValue(offset, std::string("a second form of the shape; expected one of ") + kFormNames);
+        faults.addValue(offset, "a second form of the shape; expected one of " + formNames());
     } else if (form) {
         hasForm_ = true;
         shape_.form = form->form;
@@ -46,34 +41,19 @@ void ShapeDraft::text(Key key, std::string value) {
 }
 
 void ShapeDraft::numbers(Key key, std::vector<double> values, std::size_t offset, Faults& faults) {
-    const FormRule& form = *findForm(key);
-    if (values.size() != form.sizes) {
-        faults.addValue(offset, '"' + std::string(form.key) + "\" has " + std::to_string(values.size()) +
-                                    " numbers; expected " + std::to_string(form.sizes));
-    }
-    const auto bad = std::find_if(values.begin(), values.end(), [](double size) { return size <= 0; });
-    if (bad != values.end()) {
-        faults.addValue(offset, '"' + std::string(form.key) + "\" has the size " + jsonNumber(*bad) +
-                                    "; expected sizes above 0");
+    if (const auto fault = sizesFault(*findForm(key), values)) {
+        faults.addValue(offset, *fault);
     }
     shape_.sizes = std::move(values);
 }
 
 Shape ShapeDraft::take(std::size_t offset, Faults& faults) {
     if (!hasForm_) {
-        faults.addValue(offset, std::string("a shape without a form; expected one of ") + kFormNames);
+        faults.addValue(offset, "a shape without a form; expected one of " + formNames());
     } else if (shape_.part && shape_.form != Shape::Form::Step) {
-        faults.addValue(offset, R"("part" in a shape that is no file; expected it beside "step")");
+        faults.addValue(offset, kPartWithoutFile);
     }
     return std::move(shape_);
-}
-
-Place makePlace(std::vector<double> numbers, std::size_t offset, Faults& faults) {
-    if (numbers.size() != 3 && numbers.size() != 6) {
-        faults.addValue(offset, "\"place\" has " + std::to_string(numbers.size()) +
-                                    " numbers; expected 3, or 6 with the turns");
-    }
-    return {std::move(numbers)};
 }
 
 } // namespace planner

@@ -27,7 +27,4 @@ private:
     bool hasForm_ = false;
 };
 
-/// A place from its numbers.
-Place makePlace(std::vector<double> numbers, std::size_t offset, Faults& faults);
-
 } // namespace planner

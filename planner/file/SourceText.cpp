@@ -1,5 +1,6 @@
 #include "planner/file/SourceText.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
@@ -147,6 +148,12 @@ std::optional<EncodingFault> findEncodingFault(std::string_view text) {
         }
     }
     return std::nullopt;
+}
+
+bool holdsControlCharacter(std::string_view text) {
+    return std::any_of(text.begin(), text.end(), [](char letter) {
+        return static_cast<unsigned char>(letter) < 0x20 && letter != '\t' && letter != '\n' && letter != '\r';
+    });
 }
 
 std::size_t signatureLength(std::string_view text) {

@@ -25,6 +25,12 @@ struct EncodingFault {
 /// The first byte that keeps the text from being UTF-8 without NUL; nothing when it is.
 std::optional<EncodingFault> findEncodingFault(std::string_view text);
 
+/// Whether a text holds a control character that no plan can: one other than tab and line end.
+bool holdsControlCharacter(std::string_view text);
+
+/// What a message says of such a text, behind it.
+inline constexpr const char* kControlCharacterText = " holds a control character; expected none but tab and line end";
+
 /// Length of the signature that some editors put in front of UTF-8; 0 when there is none.
 std::size_t signatureLength(std::string_view text);
 

@@ -86,13 +86,12 @@ QOREventSubscriber* Activity::GetEventPublisher() const {
     return root_ ? root_->publisher.Get() : nullptr;
 }
 
-void Activity::setKind(ActivityKind kind) {
-    kind_ = kind;
-    hasOwnKind_ = true;
+std::string Activity::type() const {
+    return type_ ? *type_ : firstType(kind());
 }
 
-std::string Activity::type() const {
-    return type_ ? *type_ : firstType(kind_);
+void Activity::setType(std::optional<std::string> type) {
+    type_ = type ? std::make_unique<std::string>(std::move(*type)) : nullptr;
 }
 
 QORStatus Activity::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
@@ -121,7 +120,7 @@ QORStatus Activity::GetType(QORUnicodeString& oType) const {
 }
 
 unsigned char Activity::IsOfType(const QORUnicodeString& iType) const {
-    return isStep() && (iType == kStepType || iType == firstType(kind_)) ? 1 : 0;
+    return isStep() && (iType == kStepType || iType == firstType(kind())) ? 1 : 0;
 }
 
 bool Activity::matches(const QORUnicodeString& type) const {

@@ -21,15 +21,16 @@ public:
     Activity();
     ~Activity() override;
 
-    ActivityKind kind() const { return kind_; }
-    bool hasOwnKind() const { return hasOwnKind_; }
-    void setKind(ActivityKind kind);
-    bool isStep() const { return kind_ != ActivityKind::Logical; }
+    /// The kind: the own one, by default a plain activity.
+    ActivityKind kind() const { return kind_.value_or(ActivityKind::Activity); }
+    std::optional<ActivityKind> ownKind() const { return kind_; }
+    void setKind(std::optional<ActivityKind> kind) { kind_ = kind; }
+    bool isStep() const { return kind() != ActivityKind::Logical; }
 
     /// Text of the type: the own one, by default the first model type of the kind, "Logical" for a logical node.
     std::string type() const;
-    bool hasOwnType() const { return type_ != nullptr; }
-    void setType(std::string type) { type_ = std::make_unique<std::string>(std::move(type)); }
+    std::optional<std::string> ownType() const { return type_ ? std::optional(*type_) : std::nullopt; }
+    void setType(std::optional<std::string> type);
 
     /// The containing activity; null for the root and for an activity of a behaviour.
     Activity* parent() const;
@@ -78,8 +79,7 @@ private:
     bool matches(const QORUnicodeString& type) const;
     QORListValQORBaseUnknown_var* newAllItems() const;
 
-    ActivityKind kind_ = ActivityKind::Activity;
-    bool hasOwnKind_ = false;
+    std::optional<ActivityKind> kind_;
     std::unique_ptr<std::string> type_;
     std::unique_ptr<Root> root_;
     QORISPPActivityTie<Activity> step_{this};

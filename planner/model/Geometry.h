@@ -24,7 +24,7 @@ struct Shape {
     std::string notes;               ///< JSON text, empty when there are none
 };
 
-/// Key of a form in the plan file, and how many sizes it has.
+/// A form, its key in the plan file, and how many sizes it has.
 struct FormRule {
     Shape::Form form;
     std::string_view key;
@@ -34,6 +34,9 @@ inline constexpr std::array<FormRule, 4> kForms{{{Shape::Form::Box, "box", 3},
                                                  {Shape::Form::Cylinder, "cylinder", 2},
                                                  {Shape::Form::Sphere, "sphere", 1},
                                                  {Shape::Form::Step, "step", 0}}};
+constexpr const FormRule& ruleOf(Shape::Form form) {
+    return kForms[static_cast<std::size_t>(form)];
+}
 
 /// Where an item stands: x, y, z in millimetres, then, when given, the turns about the three axes in degrees.
 struct Place {

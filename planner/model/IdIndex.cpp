@@ -34,16 +34,19 @@ void IdIndex::insert(ModelObject& object) {
         std::vector<Slot> larger(slots_.empty() ? kSmallest : 2 * slots_.size());
         for (const Slot& slot : slots_) {
             if (slot.object) {
-                place(larger, slot);
+                put(larger, slot);
             }
         }
         slots_ = std::move(larger);
     }
-    place(slots_, {hashOf(object.id()), &object});
+    put(slots_, {hashOf(object.id()), &object});
     ++count_;
 }
 
 void IdIndex::erase(const ModelObject& object) {
+    if (find(object.id()) != &object) {
+        return;
+    }
     const std::size_t mask = slots_.size() - 1;
     std::size_t gap = hashOf(object.id()) & mask;
     while (slots_[gap].object != &object) {
@@ -60,7 +63,7 @@ void IdIndex::erase(const ModelObject& object) {
     --count_;
 }
 
-void IdIndex::place(std::vector<Slot>& slots, Slot entry) {
+void IdIndex::put(std::vector<Slot>& slots, Slot entry) {
     const std::size_t mask = slots.size() - 1;
     std::size_t at = entry.hash & mask;
     while (slots[at].object) {

@@ -18,7 +18,7 @@ public:
     /// Enters an object under its id, which no other object in the index has and which stays the same.
     void insert(ModelObject& object);
 
-    /// Takes out an object that is in the index.
+    /// Takes an object out; one that isn't in the index is none of its business.
     void erase(const ModelObject& object);
 
 private:
@@ -27,7 +27,7 @@ private:
         ModelObject* object = nullptr;
     };
 
-    static void place(std::vector<Slot>& slots, Slot entry);
+    static void put(std::vector<Slot>& slots, Slot entry);
 
     std::vector<Slot> slots_; // a power of two of them, half of them free
     std::size_t count_ = 0;

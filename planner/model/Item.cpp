@@ -16,12 +16,14 @@ Item::Body& Item::makeBody() {
 
 void Item::setShape(std::optional<Shape> shape) {
     Body& body = makeBody();
-    body.hadShape = body.hadShape || shape;
+    const bool wasVisible = body.geometry.shape || body.mayBeShown;
+    body.mayBeShown = wasVisible && GetReferenceCount() > 1; // one is the plan's
     body.geometry.shape = std::move(shape);
 }
 
 QORStatus Item::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
-    if (body_ && body_->hadShape && QORAnswer(iInterface, oInterface, body_->visible) >= 0) {
+    const bool isVisible = body_ && (body_->geometry.shape || body_->mayBeShown);
+    if (isVisible && QORAnswer(iInterface, oInterface, body_->visible) >= 0) {
         return QOR_OK;
     }
     const QORStatus status = QORAnswer(iInterface, oInterface, item_);

@@ -15,8 +15,8 @@ namespace planner {
 class Plan;
 
 /// Something that activities and resources list. This class alone is the kind "item": a tool, a jig. With a shape it
-/// can be seen in space; an item that loses its shape goes on answering QORI3DGeoVisu, so that a view that shows it can
-/// still end that, but has neither shape nor place to give.
+/// can be seen in space. An item that loses its shape has neither shape nor place to give; when somebody but the plan
+/// holds the item then, it goes on answering QORI3DGeoVisu, so that a view that shows it can still end that.
 class Item : public ModelObject {
 public:
     explicit Item(ItemKind kind = ItemKind::Item) : ModelObject(Sort::Item), kind_(kind) {}
@@ -47,7 +47,7 @@ private:
     struct Body {
         explicit Body(Item* item) : visible(item) {}
         Geometry geometry;
-        bool hadShape = false;
+        bool mayBeShown = false; // without a shape
         QORI3DGeoVisuTie<Item> visible;
     };
 

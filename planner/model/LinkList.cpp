@@ -9,6 +9,17 @@ constexpr std::uint64_t kGap = std::uint64_t(1) << 32U;
 
 } // namespace
 
+Link* LinkList::at(std::size_t position) const {
+    if (position >= size_) {
+        return nullptr;
+    }
+    Link* link = first_;
+    while (position-- > 0) {
+        link = link->next;
+    }
+    return link;
+}
+
 Link& LinkList::make(FlowObject& from, FlowObject& to) {
     if (unused_.empty()) {
         return links_.emplace_back(Link{&from, &to});

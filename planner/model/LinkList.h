@@ -48,6 +48,9 @@ public:
     Iterator begin() const { return Iterator(first_); }
     Iterator end() const { return Iterator(nullptr); }
 
+    /// The link at a position from 0; null behind the last one.
+    Link* at(std::size_t position) const;
+
     /// A new link that isn't in the list yet.
     Link& make(FlowObject& from, FlowObject& to);
 

@@ -18,14 +18,9 @@ const char* sortText(Sort sort) {
     return "a behaviour";
 }
 
-void ModelObject::setName(std::string name) {
-    name_ = std::move(name);
-    hasOwnName_ = true;
-}
-
-void ModelObject::swapName(std::string& name, bool& isOwn) {
-    name_.swap(name);
-    std::swap(hasOwnName_, isOwn);
+void ModelObject::setName(std::optional<std::string> name) {
+    hasOwnName_ = name.has_value();
+    name_ = std::move(name).value_or("");
 }
 
 const std::string& ModelObject::notes() const {
@@ -34,7 +29,7 @@ const std::string& ModelObject::notes() const {
 }
 
 void ModelObject::setNotes(std::string json) {
-    notes_ = std::make_unique<std::string>(std::move(json));
+    notes_ = json.empty() ? nullptr : std::make_unique<std::string>(std::move(json));
 }
 
 ModelObject* ModelObject::behind(const QORBaseUnknown_var& handle) {

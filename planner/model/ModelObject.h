@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,10 +38,8 @@ public:
     /// The name as a person reads it: the own one, by default the id.
     const std::string& name() const { return hasOwnName_ ? name_ : id_; }
     bool hasOwnName() const { return hasOwnName_; }
-    void setName(std::string name);
-
-    /// Puts other values in the place of the name and of whether it is an own one; they get the present ones.
-    void swapName(std::string& name, bool& isOwn);
+    std::optional<std::string> ownName() const { return hasOwnName_ ? std::optional(name_) : std::nullopt; }
+    void setName(std::optional<std::string> name);
 
     /// Whether the object stands in its plan. What was removed, or wasn't added yet, doesn't.
     bool standsInPlan() const { return stands_; }
@@ -49,7 +48,7 @@ public:
     std::size_t positionHint() const { return positionHint_; }
     void setPositionHint(std::size_t place) const { positionHint_ = static_cast<std::uint32_t>(place); }
 
-    /// Remarks that were kept for a user of the file: JSON text, empty when there are none.
+    /// Remarks that are kept for a user of the file: JSON text, empty when there are none.
     const std::string& notes() const;
     void setNotes(std::string json);
 

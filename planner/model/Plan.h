@@ -53,7 +53,7 @@ public:
     Behaviour& newBehaviour();
     Resource& newResource();
 
-    /// Gives the object its id. Fails, changing nothing, when another object has that id. An id is given once.
+    /// Gives the object its id. Fails, changing nothing, when another object has that id.
     bool setId(ModelObject& object, std::string id);
 
     /// The object of that id, or null.
@@ -77,6 +77,9 @@ public:
     void enter(ModelObject& object);
     void leave(ModelObject& object);
 
+    /// Gives an object that stands in the plan another id, which no other object has. A behaviour can have none: empty.
+    void changeId(ModelObject& object, std::string id);
+
     /// Gives up an object that was made and doesn't stand in the plan.
     void discard(ModelObject& object);
 
@@ -86,6 +89,8 @@ public:
 
     /// Links that come and go. A new one is put in to stand in the list and in both views, a link in front of another
     /// (null for the end of the list), and can be taken out again.
+    /// linkAt gives the link at a position from 0, null for the end.
+    Link* linkAt(std::size_t position) const { return links_.at(position); }
     Link& newLink(FlowObject& from, FlowObject& to) { return links_.make(from, to); }
     void putLink(Link& link, Link* before);
     void takeLink(Link& link);

@@ -25,10 +25,16 @@ void Plan::leave(ModelObject& object) {
     }
 }
 
+void Plan::changeId(ModelObject& object, std::string id) {
+    leave(object);
+    object.id_ = std::move(id);
+    enter(object);
+}
+
 void Plan::discard(ModelObject& object) {
     // What is given up is among what was made last.
-    const auto place = std::find(objects_.rbegin(), objects_.rend(), &object);
-    *place = objects_.back();
+    const auto last = std::find(objects_.rbegin(), objects_.rend(), &object);
+    *last = objects_.back();
     objects_.pop_back();
     object.forgetNeighbours();
     object.Release();

@@ -73,9 +73,8 @@ const Case kValues[] = {
     {"OtherVersion", R"({"version":2})", "p:1:12: expected 1 for \"version\", found 2 (at /version)\n"},
     {"VersionText", R"({"version":"1"})", "p:1:12: expected 1 for \"version\", found a text (at /version)\n"},
     {"UnknownKey", R"({"version":1,"item":[]})",
-     "p:1:14: unknown key \"item\"; expected \"plan\", \"version\", \"items\", \"process\", \"resources\", \"links\" "
-     "or "
-     "\"notes\" (at /item)\n"},
+     "p:1:14: unknown key \"item\"; expected \"plan\", \"version\", \"notes\", \"items\", \"process\", \"resources\" "
+     "or \"links\" (at /item)\n"},
     {"TwiceTheSameKey", R"({"version":1,"plan":"a","plan":"b"})",
      "p:1:25: the key \"plan\" stands twice; expected it once (at /plan)\n"},
     {"TwiceTheSameKeyInNotes", R"({"version":1,"notes":{"b":[{"a":1,"\u0061":2}]}})",
@@ -122,9 +121,8 @@ const Case kValues[] = {
     {"FourNumbersForAPlace", item(R"("kind":"item","place":[1,2,3,4])"),
      "p:1:55: \"place\" has 4 numbers; expected 3, or 6 with the turns (at /items/0/place)\n"},
     {"PointerEscapes", R"({"version":1,"a/b~":1})",
-     "p:1:14: unknown key \"a/b~\"; expected \"plan\", \"version\", \"items\", \"process\", \"resources\", \"links\" "
-     "or "
-     "\"notes\" (at /a~1b~0)\n"},
+     "p:1:14: unknown key \"a/b~\"; expected \"plan\", \"version\", \"notes\", \"items\", \"process\", \"resources\" "
+     "or \"links\" (at /a~1b~0)\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Values, Faults, testing::ValuesIn(kValues), nameOf);
 

@@ -86,13 +86,16 @@ TEST(Items, ShowTheirShapeAndPlace) {
     }
 }
 
-TEST(Items, CanBeSeenFromTheirFirstShapeOnButShowNothingWithout) {
+TEST(Items, CanBeSeenWithAShapeAndByWhoShowsThemStill) {
     Session s(kWorld);
     s.editor().setPlace(s.item("part"), planner::Place{{1, 2, 3}});
-    EXPECT_FALSE(QORI3DGeoVisu_var(&s.item("part")));
-    s.editor().setShape(s.item("jig"), std::nullopt);
+    s.editor().setShape(s.item("part"), planner::Shape{planner::Shape::Form::Sphere, {2}, "", {}, ""});
+    EXPECT_TRUE(QORI3DGeoVisu_var(&s.item("part")));
+    s.editor().undo();
+    EXPECT_FALSE(QORI3DGeoVisu_var(&s.item("part"))) << "undo is exact";
     const QORI3DGeoVisu_var visible(&s.item("jig"));
-    ASSERT_TRUE(visible) << "a view may show it still";
+    s.editor().setShape(s.item("jig"), std::nullopt);
+    EXPECT_TRUE(QORI3DGeoVisu_var(&s.item("jig"))) << "a view that shows it has to end that";
     QORGeoShape shape;
     shape.kind = QORGeoShape::Sphere;
     EXPECT_LT(visible->GetShape(shape), 0);

@@ -18,7 +18,8 @@ const char* const kWorld = R"({"version": 1,
     {"id": "frame", "kind": "assembly", "name": "Frame", "holds": ["part", "panel", "part"]},
     {"id": "cell", "kind": "assembly", "children": ["panel"]},
     {"id": "weld", "kind": "fastener", "type": "Spot Weld"},
-    {"id": "jig", "kind": "item", "shape": {"box": [1, 2, 3]}, "place": [4, 5, 6]}],
+    {"id": "jig", "kind": "item", "shape": {"box": [1, 2, 3]}, "place": [4, 5, 6]},
+    {"id": "kit", "kind": "product", "children": ["gripper", "part", "gripper"]}],
   "process": {"id": "line", "children": [
     {"id": "load", "kind": "loading", "first_assigned": ["part", "jig", "part"], "items": ["weld"]},
     {"id": "join", "name": "Join", "first_assigned": ["panel"], "removed": [], "outputs": ["frame"], "children": [

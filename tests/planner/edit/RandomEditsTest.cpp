@@ -52,11 +52,12 @@ private:
     void tryEdit() {
         using Edit = void (RandomSession::*)();
         using R = RandomSession;
-        constexpr Edit kEdits[] = {&R::addActivity, &R::addActivity, &R::move,        &R::remove,
-                                   &R::remove,      &R::addLink,     &R::addLink,     &R::putItem,
-                                   &R::putItem,     &R::putItem,     &R::removeLink,  &R::takeItem,
-                                   &R::makeList,    &R::dropList,    &R::addItem,     &R::removeItem,
-                                   &R::setType,     &R::rename,      &R::addResource, &R::changeBehaviour};
+        constexpr Edit kEdits[] = {
+            &R::addActivity, &R::addActivity,     &R::move,        &R::remove,        &R::remove,     &R::addLink,
+            &R::addLink,     &R::putItem,         &R::putItem,     &R::putItem,       &R::removeLink, &R::takeItem,
+            &R::makeList,    &R::dropList,        &R::addItem,     &R::removeItem,    &R::setType,    &R::rename,
+            &R::addResource, &R::changeBehaviour, &R::putResource, &R::putResource,   &R::remove,     &R::changeKind,
+            &R::changeText,  &R::changeId,        &R::reorder,     &R::changePresence};
         try {
             (this->*kEdits[below(std::size(kEdits))])();
         } catch (const planner::EditError&) {
@@ -148,6 +149,43 @@ private:
         }
     }
 
+    void putResource() {
+        editor().putItem(anyItem(), planner::Relation::Children, needed(dynamic_cast<Resource*>(&anyFlow())),
+                         position());
+    }
+    void changeKind() {
+        editor().setKind(needed(dynamic_cast<Activity*>(&anyFlow())), static_cast<planner::ActivityKind>(below(5)));
+    }
+    void changeText() {
+        switch (below(4)) {
+        case 0:
+            return editor().setTitle("T" + std::to_string(below(9)));
+        case 1:
+            return editor().setNotes(anyOwner(), "[" + std::to_string(below(9)) + " ]");
+        case 2:
+            return editor().setType(needed(dynamic_cast<Activity*>(&anyFlow())), "T");
+        default:
+            return editor().rename(anyOwner(), std::nullopt);
+        }
+    }
+    void changeId() { editor().changeId(anyOwner(), below(4) == 0 ? "" : newId()); }
+    void reorder() {
+        switch (below(3)) {
+        case 0:
+            return editor().moveItem(anyItem(), below(4));
+        case 1:
+            return editor().moveEntry(anyOwner(), relation(), below(3), below(3));
+        default:
+            needRoom(0, plan().links().size());
+            const planner::Link& link = *plan().links().begin();
+            return editor().moveLink(*link.from, *link.to, below(4));
+        }
+    }
+    void changePresence() {
+        FlowObject& object = anyFlow();
+        below(2) == 0 ? editor().makeActivities(object) : editor().dropActivities(object);
+    }
+
     std::mt19937 random_;
     int refused_ = 0;
 };
@@ -155,7 +193,7 @@ private:
 class RandomEdits : public testing::TestWithParam<unsigned> {};
 
 TEST_P(RandomEdits, KeepThePlanGood) {
-    constexpr int kEdits = 500;
+    constexpr int kEdits = 250;
     RandomSession session(GetParam());
     const std::string first = session.text();
     VXMProcessBomGenerator rebuilt(QORBaseUnknown_var(session.plan().process()));
