@@ -1,6 +1,6 @@
-// An object with two names: QORISPPItem and VXMIMfgAssembly both have an operation GetName, and a door means another name
-// by each. A class that inherited both interfaces could only have one GetName; here each interface has a forwarder of its
-// own, and the one that shall answer differently says so.
+// An object with two names: QORISPPItem and VXMIMfgAssembly both have an operation GetName, and a door means another
+// name by each. A class that inherited both interfaces could only have one GetName; here each interface has a forwarder
+// of its own, and the one that shall answer differently says so.
 
 #include "Line.h"
 

@@ -1,7 +1,8 @@
-// The window of a bill over a toolkit of one's own: it opens on a process, the process changes and says so, and the tree
-// follows.
+// The window of a bill over a toolkit of one's own: it opens on a process, the process changes and says so, and the
+// tree follows.
 //
-// For that the window needs the current editor, whose document leads to the root of the process, and the root's publisher.
+// For that the window needs the current editor, whose document leads to the root of the process, and the root's
+// publisher.
 
 #include "Line.h"
 #include "TextToolkit.h"
