@@ -6,6 +6,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// An occurrence in a product structure.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORIProduct : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORIProduct"); }

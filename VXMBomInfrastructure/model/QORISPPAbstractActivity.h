@@ -8,6 +8,7 @@ class QORISPPAbstractActivity;
 using QORISPPAbstractActivity_var = QORVar<QORISPPAbstractActivity>;
 
 /// A node of the process plan, be it an activity or a logical node.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPAbstractActivity : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPAbstractActivity"); }

@@ -4,6 +4,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// A concrete activity of a process plan. Asked for by cast alone: it tells steps from logical nodes.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPActivity : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPActivity"); }

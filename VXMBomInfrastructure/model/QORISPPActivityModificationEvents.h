@@ -6,6 +6,7 @@
 class QOREventSubscriber;
 
 /// Where changes of a plan are told.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPActivityModificationEvents : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPActivityModificationEvents"); }

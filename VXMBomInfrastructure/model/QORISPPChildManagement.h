@@ -6,6 +6,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// Containment in the process plan.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPChildManagement : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPChildManagement"); }

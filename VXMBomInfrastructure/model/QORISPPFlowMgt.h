@@ -7,6 +7,7 @@
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 
 /// Control flow through an activity or a logical node. Both views list the same links.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPFlowMgt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPFlowMgt"); }

@@ -5,6 +5,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// An item that an activity or a resource can list: a product, an assembly, a fastener, a tool.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPItem : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPItem"); }

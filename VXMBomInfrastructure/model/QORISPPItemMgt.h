@@ -6,6 +6,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// Items of an activity.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPItemMgt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPItemMgt"); }

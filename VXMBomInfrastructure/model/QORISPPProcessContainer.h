@@ -5,6 +5,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// The container of a document's processes.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPProcessContainer : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPProcessContainer"); }

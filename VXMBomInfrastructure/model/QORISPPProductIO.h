@@ -4,6 +4,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// A record of one output of an activity.
+/// What holds for every operation of a model stands in VXMModel.h.
 class QORISPPProductIO : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("QORISPPProductIO"); }

@@ -5,6 +5,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// A joining element: a weld, a rivet, a bead of glue.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIBIWFastener : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIBIWFastener"); }

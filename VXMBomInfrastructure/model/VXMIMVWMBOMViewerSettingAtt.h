@@ -4,7 +4,9 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// The fastener settings of the BOM, behind the component "VXMMVWMBOMViewerSettingCtrl". Each operation fills oValue,
-/// where 1 alone means on, or leaves it alone; the results aren't looked at.
+/// where 1 alone means on, or leaves it alone; the results aren't looked at. A generator makes the component by that
+/// name when it is constructed and asks for each setting once; without the component all are on. What holds for every
+/// operation of a model stands in VXMModel.h.
 class VXMIMVWMBOMViewerSettingAtt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIMVWMBOMViewerSettingAtt"); }

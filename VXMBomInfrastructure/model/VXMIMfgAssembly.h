@@ -6,6 +6,7 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
 /// A manufacturing assembly: an item that lists what it holds.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIMfgAssembly : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIMfgAssembly"); }

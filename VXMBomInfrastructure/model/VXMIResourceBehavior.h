@@ -5,6 +5,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// What a resource does: its activities, and whatever else the behaviour object answers.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIResourceBehavior : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceBehavior"); }

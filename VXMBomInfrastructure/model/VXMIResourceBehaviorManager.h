@@ -5,6 +5,7 @@
 #include "VXMBomInfrastructure/model/VXMIResourceBehavior.h"
 
 /// A resource that has a behaviour.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIResourceBehaviorManager : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceBehaviorManager"); }

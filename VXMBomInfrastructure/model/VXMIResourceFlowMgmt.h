@@ -5,6 +5,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// Flow among resources and behaviours. Both lists are new and the caller's to delete; null counts as none.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIResourceFlowMgmt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceFlowMgmt"); }

@@ -5,6 +5,7 @@
 #include "QORPlatform/framework/QORVar.h"
 
 /// Items of a behaviour. Each call gives a new list that the caller deletes, or null.
+/// What holds for every operation of a model stands in VXMModel.h.
 class VXMIResourceItemMgmt : public QORBaseUnknown {
 public:
     static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID("VXMIResourceItemMgmt"); }
