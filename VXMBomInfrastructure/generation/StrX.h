@@ -3,20 +3,21 @@
 #include "QORPlatform/dom/DOMString.h"
 #include "VXMBomInfrastructure/VXMExport.h"
 
-/// Narrow text of a wide text of the document, owned for as long as this object lives.
+#include <string>
+
+/// Narrow text of a wide text of the document. A copy has a text of its own.
 class VXM_EXPORT StrX {
 public:
-    /// A null pointer gives no text.
+    /// Of a wide text up to its terminating zero, which is only read here. Half a surrogate pair becomes U+FFFD; a null
+    /// pointer gives no text.
     explicit StrX(const unsigned short* iWide);
     explicit StrX(const DOMString& iWide);
-    ~StrX();
-    StrX(const StrX&) = delete;
-    StrX& operator=(const StrX&) = delete;
 
-    /// UTF-8, zero-terminated.
-    const char* localForm() const { return _text; }
-    operator const char*() const { return _text; }
+    /// Zero-terminated UTF-8, valid until this object ends or is assigned to; null for no text.
+    const char* localForm() const { return _isText ? _text.c_str() : nullptr; }
+    operator const char*() const { return localForm(); }
 
 private:
-    char* _text;
+    std::string _text;
+    bool _isText;
 };

@@ -22,7 +22,7 @@ void* QORHashDico::Locate(const QORUnicodeString& iKey) const {
 }
 
 void* QORHashDico::NextItem(int& ioPosition, int& ioVisited) const {
-    if (ioPosition >= Size()) {
+    if (ioPosition < 0 || ioPosition >= Size()) {
         return nullptr;
     }
     ++ioVisited;

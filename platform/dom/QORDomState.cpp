@@ -38,6 +38,25 @@ std::string Repaired(std::string_view iText) {
     return repaired;
 }
 
+bool IsFirstHalf(XMLCh iUnit) {
+    return iUnit >= 0xD800U && iUnit < 0xDC00U;
+}
+
+bool IsSecondHalf(XMLCh iUnit) {
+    return iUnit >= 0xDC00U && iUnit < 0xE000U;
+}
+
+/// Puts U+FFFD in the place of each half of a surrogate pair that stands without the other.
+void ReplaceLoneHalves(std::u16string& ioWide) {
+    for (std::size_t i = 0; i < ioWide.size(); ++i) {
+        if (IsFirstHalf(ioWide[i]) && i + 1 < ioWide.size() && IsSecondHalf(ioWide[i + 1])) {
+            ++i;
+        } else if (IsFirstHalf(ioWide[i]) || IsSecondHalf(ioWide[i])) {
+            ioWide[i] = u'\uFFFD';
+        }
+    }
+}
+
 } // namespace
 
 std::shared_ptr<QORXmlRuntime> QORXmlRuntime::Get() {
@@ -91,18 +110,17 @@ bool QORXmlRuntime::TryWiden(std::string_view iNarrow, std::u16string& oWide) {
 }
 
 char* QORXmlRuntime::Narrow(const XMLCh* iWide) {
-    const XMLSize_t length = xercesc::XMLString::stringLen(iWide);
-    const XMLSize_t room = 3 * length + 1;
+    std::u16string wide(iWide);
+    ReplaceLoneHalves(wide);
+    const XMLSize_t room = 3 * wide.size() + 1;
     auto* const narrow = static_cast<char*>(xercesc::XMLPlatformUtils::fgMemoryManager->allocate(room));
     XMLSize_t done = 0;
     XMLSize_t filled = 0;
-    while (done < length) {
+    while (done < wide.size()) {
         XMLSize_t eaten = 0;
-        filled += _utf8->transcodeTo(iWide + done, length - done, reinterpret_cast<XMLByte*>(narrow) + filled,
-                                     room - 1 - filled, eaten, xercesc::XMLTranscoder::UnRep_RepChar);
-        if (eaten == 0) {
-            break;
-        }
+        filled +=
+            _utf8->transcodeTo(wide.data() + done, wide.size() - done, reinterpret_cast<XMLByte*>(narrow) + filled,
+                               room - 1 - filled, eaten, xercesc::XMLTranscoder::UnRep_RepChar);
         done += eaten;
     }
     narrow[filled] = '\0';

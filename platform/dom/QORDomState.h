@@ -23,7 +23,8 @@ public:
     /// UTF-8 into UTF-16. What is no UTF-8 becomes U+FFFD.
     std::u16string Widen(std::string_view iNarrow);
 
-    /// UTF-16 up to the terminating zero into UTF-8, in memory that XMLString::release frees.
+    /// UTF-16 up to the terminating zero into UTF-8, in memory that XMLString::release frees. Half a surrogate pair
+    /// becomes U+FFFD.
     char* Narrow(const XMLCh* iWide);
 
 private:

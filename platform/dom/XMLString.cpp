@@ -9,7 +9,7 @@ char* XMLString::transcode(const unsigned short* iWide) {
 }
 
 void XMLString::release(char** ioText) {
-    if (*ioText) {
+    if (ioText && *ioText) {
         xercesc::XMLString::release(ioText);
     }
 }

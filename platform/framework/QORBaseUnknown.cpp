@@ -40,6 +40,9 @@ int QORBaseUnknown::Release() {
 }
 
 QORStatus QORBaseUnknown::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {
+    if (!oInterface) {
+        return QOR_FAILED;
+    }
     *oInterface = nullptr;
     return FindPart(iInterface, oInterface);
 }

@@ -25,8 +25,9 @@ public:
     virtual int Release();
 
     /// Casts. On success *oInterface is the interface pointer, with a reference for the caller, and the result is
-    /// QOR_OK; otherwise *oInterface is null and the result negative. The base answers what the dictionary binds to
-    /// the object's class, its bases, and the extensions of either; forwarders are made once and found again.
+    /// QOR_OK; otherwise *oInterface is null and the result negative, as it is for a null oInterface. The base answers
+    /// what the dictionary binds to the object's class, its bases, and the extensions of either; forwarders are made
+    /// once and found again.
     virtual QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface);
 
     /// With 0 the implementation behind this pointer: the object itself, the one that a forwarder stands for, the one
@@ -39,7 +40,7 @@ public:
     /// Name of the object's class or late type. Not to be kept: it goes with the entry in the dictionary.
     const char* IsA() const;
 
-    /// 1 when the object is of the named class, or of one that derives from it, else 0.
+    /// 1 when the object is of the named class, or of one that derives from it, else 0; 0 for null.
     virtual int IsAKindOf(const char* iClass) const;
 
     /// Number of references that are held at present.

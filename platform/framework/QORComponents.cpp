@@ -4,8 +4,11 @@
 #include "QORPlatform/framework/QORVar.h"
 
 QORStatus QORInstantiateComponent(const char* iName, const QORInterfaceID& iInterface, void** oInterface) {
+    if (!oInterface) {
+        return QOR_FAILED;
+    }
     *oInterface = nullptr;
-    const QORMetaClass* const meta = QORDictionary::Get().FindClass(iName);
+    const QORMetaClass* const meta = QORDictionary::Get().FindClass(iName ? iName : "");
     if (!meta) {
         return QOR_FAILED;
     }

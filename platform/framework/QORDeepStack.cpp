@@ -24,15 +24,17 @@
 namespace {
 
 constexpr std::size_t kSegmentSize = std::size_t{1} << 20;
-constexpr std::uintptr_t kReserve = std::uintptr_t{256} << 10;
+// What QORDeepStack promises to what is called, and as much again as our own functions need around it.
+constexpr std::uintptr_t kReserve = QORDeepStack::kReserve + (std::uintptr_t{64} << 10);
 constexpr std::size_t kKeptSegments = 4;
 
+/// Where this thread's stack can't be learned the present address, so that the next call goes on a segment.
 std::uintptr_t LowEndOfThreadStack() {
     pthread_attr_t attributes;
-    void* base = nullptr;
+    void* base = __builtin_frame_address(0);
     std::size_t size = 0;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0) {
-        return 0;
+        return reinterpret_cast<std::uintptr_t>(base);
     }
     pthread_attr_getstack(&attributes, &base, &size);
     pthread_attr_destroy(&attributes);
@@ -52,7 +54,10 @@ public:
         if (_memory == MAP_FAILED) {
             throw std::bad_alloc();
         }
-        mprotect(_memory, GuardSize(), PROT_NONE);
+        if (mprotect(_memory, GuardSize(), PROT_NONE) != 0) {
+            munmap(_memory, kSegmentSize);
+            throw std::bad_alloc();
+        }
     }
     Segment(Segment&& iOther) noexcept : _memory(iOther._memory) { iOther._memory = MAP_FAILED; }
     Segment& operator=(Segment&&) = delete;

@@ -73,12 +73,17 @@ void QORDictionary::Bind(const std::string& iClass, const QORInterfaceID& iInter
     _bindings[iClass].push_back({iInterface, iFactory});
 }
 
-void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface) {
+void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {
     const auto place = _bindings.find(iClass);
     if (place == _bindings.end()) {
         return;
     }
-    std::erase_if(place->second, [&](const Binding& iBinding) { return iBinding.interface == iInterface; });
+    const auto bound = std::find_if(place->second.begin(), place->second.end(), [&](const Binding& iBinding) {
+        return iBinding.interface == iInterface && iBinding.factory == iFactory;
+    });
+    if (bound != place->second.end()) {
+        place->second.erase(bound);
+    }
     if (place->second.empty()) {
         _bindings.erase(place);
     }
@@ -127,10 +132,12 @@ std::vector<std::string> QORDictionary::Report() const {
 }
 
 QORFillDictionary::QORFillDictionary(const char* iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory)
-    : _class(iClass), _interface(iInterface) {
-    QORDictionary::Get().Bind(_class, _interface, iFactory);
+    : _class(iClass ? iClass : ""), _interface(iInterface), _factory(iFactory) {
+    if (iClass && iFactory) {
+        QORDictionary::Get().Bind(_class, _interface, _factory);
+    }
 }
 
 QORFillDictionary::~QORFillDictionary() {
-    QORDictionary::Get().Unbind(_class, _interface);
+    QORDictionary::Get().Unbind(_class, _interface, _factory);
 }

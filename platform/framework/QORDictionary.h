@@ -18,18 +18,24 @@ public:
 
     /// Enters the class; it takes the place of a placeholder of its name, also as the base of others.
     void Register(QORMetaClass& iClass);
+
+    /// Takes the class out with the extensions that it makes; nothing happens to another class of its name.
     void Unregister(const QORMetaClass& iClass);
+
+    /// Enters iExtension behind the other extensions of iType.
     void AddExtension(const std::string& iType, QORMetaClass& iExtension);
 
-    /// The class of that name, or null.
+    /// The class or placeholder of that name, or null; FindOrPlace makes a placeholder then.
     QORMetaClass* FindClass(const std::string& iName) const;
     QORMetaClass* FindOrPlace(const std::string& iName);
 
     /// Drops the placeholders of names that nothing is bound to, nothing extends and no class derives from.
     void DropUnusedPlaceholders();
 
+    /// Enter what makes the forwarder of an interface for a class, and take one such entry back; the factory that was
+    /// entered first answers. No factory is null.
     void Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
-    void Unbind(const std::string& iClass, const QORInterfaceID& iInterface);
+    void Unbind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
 
     /// Factory for the interface on that very class, or null.
     QORForwarderFactory FindFactory(const std::string& iClass, const QORInterfaceID& iInterface) const;
@@ -59,7 +65,8 @@ private:
     std::unordered_map<std::string, std::vector<Binding>> _bindings;
 };
 
-/// Binds an interface to a class for as long as this object lives: a static object in the library of the class.
+/// Binds an interface to a class for as long as this object lives: a static object in the library of the class. A null
+/// class or factory binds nothing.
 class QOR_EXPORT QORFillDictionary {
 public:
     QORFillDictionary(const char* iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory);
@@ -70,4 +77,5 @@ public:
 private:
     std::string _class;
     QORInterfaceID _interface;
+    QORForwarderFactory _factory;
 };

@@ -6,7 +6,9 @@
 /// Name of an interface, with its hash at hand so that a comparison rarely reads the text.
 class QORInterfaceID {
 public:
+    /// The text is the caller's and stays as long as the identifier; a null pointer gives the empty name.
     constexpr explicit QORInterfaceID(std::string_view iName) : _name(iName), _hash(HashOf(iName)) {}
+    constexpr explicit QORInterfaceID(const char* iName) : QORInterfaceID(std::string_view(iName ? iName : "")) {}
 
     constexpr std::string_view GetName() const { return _name; }
     constexpr std::uint64_t GetHash() const { return _hash; }

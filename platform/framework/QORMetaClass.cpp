@@ -6,12 +6,12 @@
 
 QORMetaClass::QORMetaClass(const char* iName, ENUMTypeOfClass iKind, QORMetaClass* iBase, const char* iExtended,
                            const char* iModule, Creator iCreate)
-    : _name(iName), _kind(iKind), _base(iBase), _module(iModule), _create(iCreate) {
+    : _name(iName ? iName : ""), _kind(iKind), _base(iBase), _module(iModule ? iModule : ""), _create(iCreate) {
     if (iKind == ENUMTypeOfClass::Placeholder) {
         return;
     }
     QORDictionary::Get().Register(*this);
-    if (std::strcmp(iExtended, "QORNull") != 0) {
+    if (iExtended && std::strcmp(iExtended, "QORNull") != 0) {
         SetExtensionOf(fct_FindMetaObject(iExtended));
     }
 }
@@ -23,12 +23,14 @@ QORMetaClass::~QORMetaClass() {
 }
 
 void QORMetaClass::SetExtensionOf(QORMetaClass* iType) {
-    _extended.emplace_back(iType->GetName());
-    QORDictionary::Get().AddExtension(iType->GetName(), *this);
+    if (iType) {
+        _extended.emplace_back(iType->GetName());
+        QORDictionary::Get().AddExtension(iType->GetName(), *this);
+    }
 }
 
 bool QORMetaClass::IsAKindOf(const char* iClass) const {
-    for (const QORMetaClass* meta = this; meta; meta = meta->_base) {
+    for (const QORMetaClass* meta = iClass ? this : nullptr; meta; meta = meta->_base) {
         if (meta->_name == iClass) {
             return true;
         }
@@ -44,7 +46,7 @@ QORMetaClass* QORMetaClass::OfBaseUnknown() {
 }
 
 QORMetaClass* fct_FindMetaObject(const char* iName) {
-    return QORDictionary::Get().FindOrPlace(iName);
+    return iName ? QORDictionary::Get().FindOrPlace(iName) : nullptr;
 }
 
 QORClassEntry::QORClassEntry(const char* iName, const QORModule& iModule, QORMetaClass* iBase,

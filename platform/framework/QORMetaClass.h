@@ -22,7 +22,8 @@ class QOR_EXPORT QORMetaClass {
 public:
     using Creator = QORBaseUnknown* (*)();
 
-    /// iExtended names the type that an extension extends, "QORNull" for none. iCreate is `CreateItself`: it gives a
+    /// iExtended names the type that an extension extends, "QORNull" or null for none; a null iName or iModule is the
+    /// empty text, a null iBase makes a class without a base. iCreate is `CreateItself`: it gives a
     /// new object with one reference, or null for a class that can't be created by name.
     QORMetaClass(const char* iName, ENUMTypeOfClass iKind, QORMetaClass* iBase, const char* iExtended,
                  const char* iModule, Creator iCreate);
@@ -35,13 +36,13 @@ public:
     QORMetaClass* GetBase() const { return _base; }
     const char* GetModule() const { return _module.c_str(); }
 
-    /// Lets this class, an extension, extend objects of iType too.
+    /// Lets this class, an extension, extend objects of iType too; null changes nothing.
     void SetExtensionOf(QORMetaClass* iType);
 
     /// Names of the types that this class extends, in the order in which they were given.
     const std::vector<std::string>& GetExtendedTypes() const { return _extended; }
 
-    /// Whether this is the named class or derives from it.
+    /// Whether this is the named class or derives from it; false for null.
     bool IsAKindOf(const char* iClass) const;
 
     /// A new object of the class with one reference, or null.
@@ -61,7 +62,7 @@ private:
     std::vector<std::string> _extended;
 };
 
-/// The meta class of that name; where there is none yet, a placeholder. Never null, owned by the dictionary. A
+/// The meta class of that name; where there is none yet, a placeholder. Null for null alone, owned by the dictionary. A
 /// placeholder goes when its name is defined, and when a class or a navigator leaves and nothing extends it: don't keep
 /// the pointer, nor its name, ask again.
 QOR_EXPORT QORMetaClass* fct_FindMetaObject(const char* iName);

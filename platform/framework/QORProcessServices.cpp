@@ -11,11 +11,11 @@ void (*lastFunction)() = nullptr;
 } // namespace
 
 const char* QORGetEnv(const char* iName) {
-    return std::getenv(iName);
+    return iName ? std::getenv(iName) : nullptr;
 }
 
 void QORFatalError(const char* iText, const char* iSource) {
-    std::fprintf(stderr, "%s %s\n", iText, iSource);
+    std::fprintf(stderr, "%s %s\n", iText ? iText : "", iSource ? iSource : "");
     std::fflush(stderr);
     // Taken out first, so that a fatal error inside the last function can't call it again.
     if (auto* const function = std::exchange(lastFunction, nullptr)) {

@@ -2,7 +2,7 @@
 
 #include "QORPlatform/text/QORExport.h"
 
-/// Value of an environment variable, null when it isn't set. The text is the environment's own.
+/// Value of an environment variable, null when it isn't set and for a null name. The text is the environment's own.
 QOR_EXPORT const char* QORGetEnv(const char* iName);
 
 /// Ends the run: writes the text and the source path to standard error, calls the last function and aborts.

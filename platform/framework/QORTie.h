@@ -26,9 +26,13 @@ protected:
 };
 
 /// Answers a cast from the forwarders that an implementation holds by value: *oInterface gets the first one of the
-/// wanted interface, with a reference, and the result is QOR_OK; without one the result is QOR_NO_INTERFACE.
+/// wanted interface, with a reference, and the result is QOR_OK; without one the result is QOR_NO_INTERFACE and
+/// *oInterface null.
 template <class... Ties>
 QORStatus QORAnswer(const QORInterfaceID& iInterface, void** oInterface, Ties&... iTies) {
+    if (!oInterface) {
+        return QOR_FAILED;
+    }
     QORBaseUnknown* found = nullptr;
     ((Ties::InterfaceID() == iInterface && (found = &iTies)) || ...);
     *oInterface = found;

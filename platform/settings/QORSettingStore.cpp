@@ -2,8 +2,8 @@
 
 #include <memory>
 
-QORSettingStore& QORSettingStore::Of(const std::string& iComponent) {
-    static auto* const stores = new std::unordered_map<std::string, std::unique_ptr<QORSettingStore>>();
+QORSettingStore& QORSettingStore::Of(const QORUnicodeString& iComponent) {
+    static auto* const stores = new std::unordered_map<QORUnicodeString, std::unique_ptr<QORSettingStore>>();
     auto& store = (*stores)[iComponent];
     if (!store) {
         store = std::make_unique<QORSettingStore>();
@@ -11,7 +11,7 @@ QORSettingStore& QORSettingStore::Of(const std::string& iComponent) {
     return *store;
 }
 
-QORStatus QORSettingStore::Get(const std::string& iName, int& oValue) const {
+QORStatus QORSettingStore::Get(const QORUnicodeString& iName, int& oValue) const {
     const auto place = _values.find(iName);
     if (place == _values.end()) {
         return QOR_FAILED;
@@ -20,6 +20,6 @@ QORStatus QORSettingStore::Get(const std::string& iName, int& oValue) const {
     return QOR_OK;
 }
 
-void QORSettingStore::Set(const std::string& iName, int iValue) {
+void QORSettingStore::Set(const QORUnicodeString& iName, int iValue) {
     _values[iName] = iValue;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "QORPlatform/framework/QORStatus.h"
-#include "QORPlatform/text/QORExport.h"
+#include "QORPlatform/text/QORUnicodeString.h"
 
-#include <string>
 #include <unordered_map>
 
 /// Int values by name that the components of one name share, for as long as the process runs. What a person has set;
@@ -11,16 +10,16 @@
 class QOR_EXPORT QORSettingStore {
 public:
     /// The store of the component that is registered as iComponent; made at the first call, never destroyed.
-    static QORSettingStore& Of(const std::string& iComponent);
+    static QORSettingStore& Of(const QORUnicodeString& iComponent);
 
     /// Fills oValue and gives QOR_OK, or leaves it alone and gives a negative status when the value was never set.
-    QORStatus Get(const std::string& iName, int& oValue) const;
-    void Set(const std::string& iName, int iValue);
+    QORStatus Get(const QORUnicodeString& iName, int& oValue) const;
+    void Set(const QORUnicodeString& iName, int iValue);
 
     /// Forgets one value, or all of them.
-    void Reset(const std::string& iName) { _values.erase(iName); }
+    void Reset(const QORUnicodeString& iName) { _values.erase(iName); }
     void ResetAll() { _values.clear(); }
 
 private:
-    std::unordered_map<std::string, int> _values;
+    std::unordered_map<QORUnicodeString, int> _values;
 };

@@ -19,7 +19,7 @@ public:
     operator const char*() const { return _text.c_str(); }
 
     friend bool operator==(const QORString& iLeft, const QORString& iRight) { return iLeft._text == iRight._text; }
-    friend bool operator==(const QORString& iLeft, const char* iRight) { return iLeft._text == iRight; }
+    friend bool operator==(const QORString& iLeft, const char* iRight) { return iLeft == QORString(iRight); }
 
 private:
     std::string _text;

@@ -1,8 +1,9 @@
 #include "QORPlatform/text/QORUnicodeString.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
-#include <cstring>
+#include <utility>
 
 namespace {
 
@@ -31,8 +32,8 @@ std::size_t NextCharacter(const std::string& iText, std::size_t iOffset) {
     return next;
 }
 
-std::size_t SkipCharacters(const std::string& iText, std::size_t iOffset, int iCount) {
-    for (int i = 0; i < iCount && iOffset < iText.size(); ++i) {
+std::size_t SkipCharacters(const std::string& iText, std::size_t iOffset, long long iCount) {
+    for (long long i = 0; i < iCount && iOffset < iText.size(); ++i) {
         iOffset = NextCharacter(iText, iOffset);
     }
     return iOffset;
@@ -49,8 +50,8 @@ int QORUnicodeString::GetLengthInChar() const {
 }
 
 QORUnicodeString QORUnicodeString::SubString(int iFirst, int iCount) const {
-    const int before = iFirst - 1;
-    const int count = before < 0 ? iCount + before : iCount;
+    const long long before = static_cast<long long>(iFirst) - 1;
+    const long long count = before < 0 ? iCount + before : iCount;
     const std::size_t begin = SkipCharacters(_text, 0, before);
     const std::size_t end = SkipCharacters(_text, begin, count);
     return QORUnicodeString(_text.substr(begin, end - begin));
@@ -65,14 +66,17 @@ void QORUnicodeString::ToUpper() {
 }
 
 void QORUnicodeString::BuildFromNum(int iNumber, const char* iFormat) {
-    char buffer[64];
-    if (std::strcmp(iFormat, "%d") == 0) {
-        const auto result = std::to_chars(buffer, buffer + sizeof buffer, iNumber);
-        _text.assign(buffer, result.ptr);
+    const std::string_view format(iFormat ? iFormat : "");
+    if (format == "%d") {
+        char digits[16];
+        const auto result = std::to_chars(digits, digits + sizeof digits, iNumber);
+        _text.assign(digits, result.ptr);
         return;
     }
-    std::snprintf(buffer, sizeof buffer, iFormat, iNumber);
-    _text = buffer;
+    const int length = std::snprintf(nullptr, 0, format.data(), iNumber);
+    std::string written(static_cast<std::size_t>(std::max(length, 0)), '\0');
+    std::snprintf(written.data(), written.size() + 1, format.data(), iNumber);
+    _text = std::move(written);
 }
 
 QORUnicodeString& QORUnicodeString::operator+=(const QORUnicodeString& iOther) {

@@ -27,7 +27,8 @@ public:
     /// Turns a to z into A to Z and leaves every other character alone.
     void ToUpper();
 
-    /// Replaces the text by iNumber written in a printf format for one int, "%d" say.
+    /// Replaces the text by iNumber written in a printf format for one int, "%d" say, however long that gets. A null
+    /// format, and one that can't be followed, gives the empty text.
     void BuildFromNum(int iNumber, const char* iFormat);
 
     /// 2 for identical texts, 0 for any others; case matters.
@@ -47,7 +48,9 @@ public:
     friend bool operator==(const QORUnicodeString& iLeft, const QORUnicodeString& iRight) {
         return iLeft._text == iRight._text;
     }
-    friend bool operator==(const QORUnicodeString& iLeft, const char* iRight) { return iLeft._text == iRight; }
+    friend bool operator==(const QORUnicodeString& iLeft, const char* iRight) {
+        return iLeft._text == std::string_view(iRight ? iRight : "");
+    }
 
 private:
     std::string _text;

@@ -30,8 +30,8 @@ bool IsSwitchedOnFromOutside(std::string_view iName) {
 } // namespace
 
 QORTrace::QORTrace(const char* iName, const char* iDescription, int iMode, const char* iOutput, int iBufferSize)
-    : _name(iName), _description(iDescription), _mode(iMode), _outputName(iOutput),
-      _bufferSize(static_cast<std::size_t>(std::max(iBufferSize, 1))) {
+    : _name(iName ? iName : ""), _description(iDescription ? iDescription : ""), _mode(iMode),
+      _outputName(iOutput ? iOutput : ""), _bufferSize(static_cast<std::size_t>(std::max(iBufferSize, 1))) {
     if (IsSwitchedOnFromOutside(_name)) {
         _mode = 1;
     }
@@ -48,7 +48,7 @@ QORTrace::~QORTrace() {
 
 QORTrace* QORTrace::Find(const char* iName) {
     for (QORTrace* trace : Traces()) {
-        if (trace->_name == iName) {
+        if (iName && trace->_name == iName) {
             return trace;
         }
     }
@@ -86,7 +86,7 @@ void QORTrace::TraPutLN(const char* iText) {
 }
 
 void QORTrace::Write(const char* iText) {
-    _buffer += iText;
+    _buffer += iText ? iText : "";
     if (_buffer.size() >= _bufferSize) {
         Flush();
     }
@@ -109,7 +109,7 @@ std::FILE* QORTrace::Output() {
     if (_outputName == "STDERR") {
         return stderr;
     }
-    if (!_ownFile) {
+    if (!_ownFile && !_outputName.empty()) {
         _ownFile = std::fopen(_outputName.c_str(), "w");
     }
     return _ownFile;

@@ -10,13 +10,14 @@
 class QOR_EXPORT QORTrace {
 public:
     /// iMode 0 is off, anything else on; iOutput is "STDERR" or the path of a file that is made when the first line
-    /// comes; iBufferSize is how many bytes may wait before they are written, and cuts nothing.
+    /// comes, empty for nowhere; iBufferSize is how many bytes may wait before they are written, and cuts nothing. Null
+    /// texts are empty ones.
     QORTrace(const char* iName, const char* iDescription, int iMode, const char* iOutput, int iBufferSize);
     ~QORTrace();
     QORTrace(const QORTrace&) = delete;
     QORTrace& operator=(const QORTrace&) = delete;
 
-    /// The trace of that name that is loaded at present, or null.
+    /// The trace of that name that is loaded at present, the first of several; null when there is none and for null.
     static QORTrace* Find(const char* iName);
 
     const char* GetName() const { return _name.c_str(); }
@@ -29,7 +30,8 @@ public:
     /// Sends what comes from now on to iFile, which stays the caller's; null restores the first output.
     void SetOutput(std::FILE* iFile);
 
-    /// Writes a text; a text and an integer in decimal with nothing between; a text and the end of the line.
+    /// Writes a text; a text and an integer in decimal with nothing between; a text and the end of the line. A
+    /// null text is the empty one.
     void TraPut(const char* iText);
     void TraPutX(const char* iText, int iNumber);
     void TraPutLN(const char* iText);

@@ -273,4 +273,16 @@ TEST(StrX, GivesNarrowTextOfTheDocumentsTexts) {
     EXPECT_EQ(StrX(static_cast<const unsigned short*>(nullptr)).localForm(), nullptr);
 }
 
+TEST(StrX, HasATextOfItsOwnAsACopy) {
+    StrX text(DOMString("first"));
+    const StrX copy(text);
+    text = StrX(DOMString("second"));
+    StrX moved(std::move(text));
+    const StrX none(static_cast<const unsigned short*>(nullptr));
+    EXPECT_STREQ(copy.localForm(), "first");
+    EXPECT_STREQ(moved.localForm(), "second");
+    moved = none;
+    EXPECT_EQ(moved.localForm(), nullptr);
+}
+
 } // namespace

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <stdexcept>
+
+#include <pthread.h>
 
 namespace {
 
@@ -35,6 +38,42 @@ TEST(DeepStack, HoldsAMillionLevelsAgainAndAgainAlsoOfExceptions) {
         plain.down(1000000);
         EXPECT_EQ(plain.left_, 1000000);
     }
+}
+
+/// Uses all the stack that is promised, page by page.
+__attribute__((noinline)) void useReserve() {
+    volatile char room[QORDeepStack::kReserve - 1024];
+    for (std::size_t at = 0; at < sizeof room; at += 1024) {
+        room[sizeof room - 1 - at] = 1;
+    }
+}
+
+void useReserveAtEachLevel(int levels) {
+    QORCallDeep([levels] {
+        volatile char frame[1000]; // so that the levels reach the end of any segment
+        frame[0] = 1;
+        if (levels > 1) {
+            useReserveAtEachLevel(levels - 1);
+        }
+        useReserve();
+    });
+}
+
+TEST(DeepStack, LeavesItsReserveAtEachLevelOnThreadsOfAnySize) {
+    for (const std::size_t size : {std::size_t{64} << 10, std::size_t{512} << 10}) {
+        pthread_attr_t attributes;
+        pthread_t thread{};
+        pthread_attr_init(&attributes);
+        ASSERT_EQ(pthread_attr_setstacksize(&attributes, size), 0);
+        const auto run = [](void*) -> void* {
+            useReserveAtEachLevel(20000);
+            return nullptr;
+        };
+        ASSERT_EQ(pthread_create(&thread, &attributes, run, nullptr), 0);
+        EXPECT_EQ(pthread_join(thread, nullptr), 0);
+        pthread_attr_destroy(&attributes);
+    }
+    useReserveAtEachLevel(20000);
 }
 
 } // namespace

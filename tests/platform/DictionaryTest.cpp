@@ -65,6 +65,9 @@ TEST(Dictionary, BindsAClassAndAllThatDeriveFromIt) {
         EXPECT_EQ(QORVar<Loud>(&bound).Get(), QORVar<Loud>(&bound).Get()) << "made once, found again";
         EXPECT_EQ(bound.GetReferenceCount(), 1);
         EXPECT_EQ(bound.IsAKindOf("TestBase"), 1);
+        { const QORFillDictionary again("TestBase", Loud::InterfaceID(), &makeSpeaker<Thing>); }
+        Thing still("TestDerived");
+        EXPECT_EQ(spoken(still), "I am TestDerived") << "one entry has gone, the other stands";
         EXPECT_EQ(bound.IsAKindOf("TestOther"), 0);
     }
     Thing later("TestDerived");

@@ -67,6 +67,19 @@ TEST(DomText, TakesBrokenUtf8AsReplacementCharacters) {
     }
 }
 
+TEST(DomText, TakesHalvesOfSurrogatePairsAsReplacementCharacters) {
+    const std::pair<std::u16string, const char*> cases[] = {
+        {{u'a', 0xD834, u'b'}, "a\uFFFDb"},
+        {{0xDD1E, u'b'}, "\uFFFDb"},
+        {{u'a', 0xD834}, "a\uFFFD"},
+        {{0xDD1E, 0xD834}, "\uFFFD\uFFFD"},
+        {{0xD834, 0xD834, 0xDD1E, u'.'}, "\uFFFD𝄞."},
+    };
+    for (const auto& [broken, repaired] : cases) {
+        EXPECT_EQ(narrow(DOMString(broken)), repaired);
+    }
+}
+
 TEST(DomDocument, IsATreeOfElementsWithAttributes) {
     DOM_Element top = topWith({"a", "b", "c"});
     top.setAttribute("name", "one");

@@ -11,9 +11,18 @@ namespace {
 
 TEST(UnicodeString, CutsBetweenCharactersOnly) {
     const std::tuple<std::string, int, int, const char*> cases[] = {
-        {"abcdef", 1, 2, "ab"},    {"abcdef", 5, 9, "ef"}, {"abcdef", 0, 2, "a"},    {"abcdef", -3, 2, ""},
-        {"abcdef", 7, 1, ""},      {"abcdef", 2, 0, ""},   {"abcdef", 2, -1, ""},    {"", 1, 5, ""},
-        {"Türgröße", 2, 3, "ürg"}, {"a€𝄞b", 2, 2, "€𝄞"},   {"\xFFgh", 1, 1, "\xFF"},
+        {"abcdef", 1, 2, "ab"},
+        {"abcdef", 5, 9, "ef"},
+        {"abcdef", 0, 2, "a"},
+        {"abcdef", -3, 2, ""},
+        {"abcdef", -2147483647 - 1, -2147483647 - 1, ""},
+        {"abcdef", 7, 1, ""},
+        {"abcdef", 2, 0, ""},
+        {"abcdef", 2, -1, ""},
+        {"", 1, 5, ""},
+        {"Türgröße", 2, 3, "ürg"},
+        {"a€𝄞b", 2, 2, "€𝄞"},
+        {"\xFFgh", 1, 1, "\xFF"},
     };
     for (const auto& [text, first, count, part] : cases) {
         EXPECT_STREQ(QORUnicodeString(text).SubString(first, count), part)
@@ -43,8 +52,9 @@ TEST(UnicodeString, RaisesPlainLettersOnly) {
 }
 
 TEST(UnicodeString, WritesNumbersByTheirFormat) {
+    const std::string wide = std::string(199, ' ') + "7";
     const std::tuple<int, const char*, const char*> cases[] = {
-        {0, "%d", "0"}, {-2147483647 - 1, "%d", "-2147483648"}, {7, "%03d", "007"}};
+        {0, "%d", "0"}, {-2147483647 - 1, "%d", "-2147483648"}, {7, "%03d", "007"}, {7, "%200d", wide.c_str()}};
     for (const auto& [number, format, written] : cases) {
         QORUnicodeString text("before");
         text.BuildFromNum(number, format);
