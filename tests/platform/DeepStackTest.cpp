@@ -50,7 +50,7 @@ __attribute__((noinline)) void useReserve() {
 
 void useReserveAtEachLevel(int levels) {
     QORCallDeep([levels] {
-        volatile char frame[1000]; // so that the levels reach the end of any segment
+        [[maybe_unused]] volatile char frame[1000]; // so that the levels reach the end of any segment
         frame[0] = 1;
         if (levels > 1) {
             useReserveAtEachLevel(levels - 1);
