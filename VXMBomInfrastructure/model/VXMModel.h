@@ -29,6 +29,7 @@
 /// VXMIMVWMBOMViewerSettingAtt; the environment variable FAB_BOM_OLD_ALGORITHM, which selects the legacy algorithm when
 /// it holds "true", in capitals or not; and QOR_TRACE, see QORTrace.
 
+#include "QORPlatform/framework/QORDeepStack.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 #include "VXMBomInfrastructure/model/QORISPPActivity.h"
