@@ -2,7 +2,6 @@
 #include "planner/bill/BillFormats.h"
 #include "planner/bill/BillRemarks.h"
 #include "planner/cli/Commands.h"
-#include "planner/cli/FastenerChoice.h"
 #include "planner/cli/TraceFile.h"
 
 #include "planner/file/JsonText.h"
@@ -61,6 +60,14 @@ bool isSameFile(const std::string& left, const std::string& right) {
     return std::filesystem::equivalent(left, right, missing) && !missing;
 }
 
+/// Sets the thirteen switches of the fastener settings for this run.
+void setFasteners(const BomOptions& options) {
+    for (std::size_t i = 0; i < VXMFastenerTypes.size(); ++i) {
+        FastenerSettings::store().Set(VXMFastenerTypes[i].setting, options.fasteners[i] ? 1 : 0);
+    }
+    FastenerSettings::store().Set(VXMAssignedFastenersOnlySetting, options.unassignedFasteners ? 0 : 1);
+}
+
 struct Computed {
     Bill bill;
     std::optional<std::string> remark;
@@ -98,13 +105,16 @@ std::optional<Computed> computeTraced(ModelObject& root, const std::vector<const
     return computed;
 }
 
+/// What is said of an empty bill of a process in which nothing is to be found, when resources stand beside it.
+std::string remarkOnEmptyProcess(const Plan& plan) {
+    return "the bill is empty: the process lists nothing; name a resource with --root, as " +
+           inQuotes(plan.resources.entries().front()->id());
+}
+
 } // namespace
 
 Status runBom(const BomOptions& options) {
-    if (const auto error = setFasteners(options.fasteners, options.unassignedFasteners)) {
-        complain(*error);
-        return Status::Bad;
-    }
+    setFasteners(options);
     const std::unique_ptr<Plan> plan = loadPlan(options.plan);
     ModelObject* const root = plan ? chooseRoot(*plan, options) : nullptr;
     if (!root) {
@@ -121,6 +131,8 @@ Status runBom(const BomOptions& options) {
     }
     if (computed->remark) {
         complain(*computed->remark);
+    } else if (computed->bill.empty() && !options.root && !plan->resources.empty()) {
+        complain(remarkOnEmptyProcess(*plan));
     }
     TextSink sink(STDOUT_FILENO);
     writeBill(computed->bill, options.format, root->name(), sink);

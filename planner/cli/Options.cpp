@@ -1,5 +1,7 @@
 #include "planner/cli/Options.h"
 
+#include "planner/file/JsonText.h"
+
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
@@ -31,7 +33,61 @@ std::vector<std::string> formatNames() {
     return names;
 }
 
-CLI::App* addBom(CLI::App& app, BomOptions& options, std::string& format) {
+/// Letters only, all of them small: "Spot Weld" and "spot-weld" are one name.
+std::string plainName(std::string_view name) {
+    std::string plain;
+    for (const char letter : name) {
+        if (letter >= 'A' && letter <= 'Z') {
+            plain += static_cast<char>(letter - 'A' + 'a');
+        } else if (letter != ' ' && letter != '-' && letter != '_') {
+            plain += letter;
+        }
+    }
+    return plain;
+}
+
+std::string typeNames() {
+    std::string names;
+    for (const VXMFastenerType& type : VXMFastenerTypes) {
+        names += (names.empty() ? "" : ", ") + std::string(type.name);
+    }
+    return names;
+}
+
+std::optional<std::string> addNamed(std::string_view name, FastenerChoice& shown) {
+    const auto type = std::find_if(VXMFastenerTypes.begin(), VXMFastenerTypes.end(), [&](const VXMFastenerType& each) {
+        return plainName(each.name) == plainName(name);
+    });
+    if (type == VXMFastenerTypes.end()) {
+        return "--fasteners names " + inQuotes(name) + "; expected all, none, or some of " + typeNames();
+    }
+    shown.set(static_cast<std::size_t>(type - VXMFastenerTypes.begin()));
+    return std::nullopt;
+}
+
+/// Reads "all", "none", or names separated by commas, letter case and blanks set aside. Gives what is wrong with them.
+std::optional<std::string> parseFasteners(std::string_view choice, FastenerChoice& shown) {
+    shown.reset();
+    if (choice == "all") {
+        shown.set();
+        return std::nullopt;
+    }
+    if (choice == "none") {
+        return std::nullopt;
+    }
+    for (;;) {
+        const std::size_t comma = choice.find(',');
+        if (auto error = addNamed(choice.substr(0, comma), shown)) {
+            return error;
+        }
+        if (comma == std::string_view::npos) {
+            return std::nullopt;
+        }
+        choice.remove_prefix(comma + 1);
+    }
+}
+
+CLI::App* addBom(CLI::App& app, BomOptions& options, std::string& format, std::string& fasteners) {
     CLI::App* const bom = app.add_subcommand("bom", "Prints the manufacturing bill of materials of a plan");
     bom->add_option("PLAN", options.plan, kPlanHelp)->required()->check(complaintOnName);
     bom->add_option("--root", options.root, "Activity or resource to analyse; the process by default")->type_name("ID");
@@ -39,7 +95,7 @@ CLI::App* addBom(CLI::App& app, BomOptions& options, std::string& format) {
         ->check(CLI::IsMember(formatNames()))
         ->type_name("FORMAT");
     bom->add_flag("--legacy", options.legacy, "Use the legacy algorithm");
-    bom->add_option("--fasteners", options.fasteners, "Fastener types to show: all, none, or names as Rivet,Stud")
+    bom->add_option("--fasteners", fasteners, "Fastener types to show: all, none, or names as Rivet,Stud")
         ->type_name("TYPES");
     bom->add_flag("--unassigned-fasteners", options.unassignedFasteners, "Show fasteners that aren't assigned as well");
     bom->add_option("--trace", options.trace, "Write the trace of the run to a file, - for standard error")
@@ -67,7 +123,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     BomOptions bomOptions;
     FmtOptions fmtOptions;
     std::string format = "tree";
-    const CLI::App* const bom = addBom(app, bomOptions, format);
+    std::string fasteners = "all";
+    const CLI::App* const bom = addBom(app, bomOptions, format, fasteners);
     addFmt(app, fmtOptions);
     CommandLine line;
     try {
@@ -83,6 +140,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
         return line;
     }
     bomOptions.format = formatOf(format);
+    if (const auto error = parseFasteners(fasteners, bomOptions.fasteners)) {
+        line.error = *error;
+        return line;
+    }
     if (bom->parsed()) {
         line.bom = std::move(bomOptions);
     } else {

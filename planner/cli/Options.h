@@ -2,10 +2,16 @@
 
 #include "planner/bill/BillFormats.h"
 
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
+
+#include <bitset>
 #include <optional>
 #include <string>
 
 namespace planner {
+
+/// Which of the fastener types a bill shows, by their places in the library's table.
+using FastenerChoice = std::bitset<VXMFastenerTypes.size()>;
 
 /// What `planner bom` is asked to do.
 struct BomOptions {
@@ -13,7 +19,7 @@ struct BomOptions {
     std::optional<std::string> root;
     Format format = Format::Tree;
     bool legacy = false;
-    std::string fasteners = "all";
+    FastenerChoice fasteners = FastenerChoice().set(); ///< all of them
     bool unassignedFasteners = false;
     std::optional<std::string> trace;
 };

@@ -1,6 +1,6 @@
 #include "planner/file/Faults.h"
 
-#include "planner/file/JsonPointers.h"
+#include "planner/file/JsonPlaces.h"
 #include "planner/file/SourceText.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "planner/file/Faults.h"
+#include "planner/file/JsonPlaces.h"
 #include "planner/file/NotesRecorder.h"
 #include "planner/file/PlanBuilder.h"
 #include "planner/file/PlanGrammar.h"
-#include "planner/file/TokenPlaces.h"
 
 #include <nlohmann/json.hpp>
 

@@ -147,6 +147,8 @@ INSTANTIATE_TEST_SUITE_P(
     Program, Remark,
     testing::Values(
         std::array{"NothingListed", R"("process": {"id": "r"})", ""},
+        std::array{"ResourcesAlone", R"("resources": [{"id": "r"}])",
+                   "planner: the bill is empty: the process lists nothing; name a resource with --root, as \"r\"\n"},
         std::array{"LoneStep", R"("process": {"id": "r", "children": [{"id": "a", "first_assigned": ["p"]}]})",
                    "planner: the bill is empty: 1 of 1 steps lies on no path of links to the end of the plan: \"a\"\n"},
         std::array{"LostStepsOfNoAccount",

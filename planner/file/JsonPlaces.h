@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <iterator>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace planner {
 
@@ -64,5 +66,9 @@ private:
     std::size_t start_ = 0;
     std::size_t end_;
 };
+
+/// JSON pointers of the values or keys that begin at the offsets, which ascend. The middle of a long pointer is left
+/// out. Empty for the whole document, and where no value begins, as behind the place where the text ceases to be JSON.
+std::vector<std::string> jsonPointers(std::string_view text, const std::vector<std::size_t>& offsets);
 
 } // namespace planner
