@@ -5,14 +5,15 @@
 
 #include "QORPlatform/dom/QORXMLParser.h"
 #include "QORPlatform/framework/QORComponents.h"
-#include "QORPlatform/framework/QORDeepStack.h"
 #include "QORPlatform/framework/QORModelIdentificator.h"
 #include "QORPlatform/framework/QORProcessServices.h"
-#include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
+#include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
+#include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
 #include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
-#include "VXMBomInfrastructure/nodes/VXMFlowEnds.h"
-#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
 
+#include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace {
@@ -26,174 +27,153 @@ bool IsOn(const VXMIMVWMBOMViewerSettingAtt_var& iSettings, decltype(VXMFastener
     return value == 1;
 }
 
+VXMIMVWMBOMViewerSettingAtt_var FindSettings() {
+    void* found = nullptr;
+    QORInstantiateComponent("VXMMVWMBOMViewerSettingCtrl", IID_VXMIMVWMBOMViewerSettingAtt, &found);
+    return VXMIMVWMBOMViewerSettingAtt_var::Adopt(static_cast<VXMIMVWMBOMViewerSettingAtt*>(found));
+}
+
+bool IsLegacyAlgorithmChosen() {
+    QORUnicodeString value(QORGetEnv("FAB_BOM_OLD_ALGORITHM"));
+    value.ToUpper();
+    return value.Compare("TRUE") != 0;
+}
+
 } // namespace
 
-/// Keeps what the last success gave while a new computation runs, and puts it back unless that one succeeds too.
-class VXMBomGenerator::Computation {
-public:
-    explicit Computation(VXMBomGenerator& ioGenerator)
-        : _generator(ioGenerator), _document(ioGenerator._document), _rootElement(ioGenerator._rootElement),
-          _previewObjects(std::exchange(ioGenerator._previewObjects, {})) {}
-    ~Computation() {
-        if (_succeeded) {
-            return;
-        }
-        _generator.FreeFN();
-        _generator.FreeMN();
-        _generator._topNode = nullptr;
-        _generator._document = _document;
-        _generator._rootElement = _rootElement;
-        _generator._previewObjects = std::move(_previewObjects);
+VXMBomComputation& VXMBomComputation::Of(VXMBomGenerator& iGenerator) {
+    return *iGenerator._state->computation;
+}
+
+void VXMBomGenerator::State::ExpectIdle(const char* iOperation) const {
+    if (isBusy) {
+        throw std::logic_error("VXMBomGenerator::" + std::string(iOperation) +
+                               ": called by the model from which this generator is computing a bill");
     }
-    Computation(const Computation&) = delete;
-    Computation& operator=(const Computation&) = delete;
+}
 
-    void Succeed() { _succeeded = true; }
-
-private:
-    VXMBomGenerator& _generator;
-    DOM_Document _document;
-    DOM_Element _rootElement;
-    QORListValQORBaseUnknown_var _previewObjects;
-    bool _succeeded = false;
-};
-
-namespace {
-
-/// Stations are remembered for as long as this lives.
-class StationsKept {
-public:
-    explicit StationsKept(VXMStationMemo*& oPlace) : _place(oPlace) { _place = &_memo; }
-    ~StationsKept() { _place = nullptr; }
-    StationsKept(const StationsKept&) = delete;
-    StationsKept& operator=(const StationsKept&) = delete;
-
-private:
-    VXMStationMemo _memo;
-    VXMStationMemo*& _place;
-};
-
-} // namespace
-
-VXMBomGenerator::VXMBomGenerator(const QORBaseUnknown_var& iRoot)
-    : _rootObject(iRoot), _firstItems(std::make_unique<VXMFirstItemSearch>()) {
+VXMBomGenerator::VXMBomGenerator(const QORBaseUnknown_var& iRoot) : _state(std::make_unique<State>(iRoot)) {
     QORXMLParser::Initialize();
-    ReadSettings();
-    ReadAlgorithm();
+    const VXMIMVWMBOMViewerSettingAtt_var settings = FindSettings();
+    int bit = 1;
+    for (const VXMFastenerType& type : VXMFastenerTypes) {
+        _state->fastenersShowMode += IsOn(settings, type.GetShow) ? bit : 0;
+        bit <<= 1;
+    }
+    const bool assignedOnly = IsOn(settings, &VXMIMVWMBOMViewerSettingAtt::GetShowAssignedFastenersOnly);
+    _state->assignedFastenersShowMode = assignedOnly ? 1 : 0;
+    _state->usesLegacyAlgorithm = IsLegacyAlgorithmChosen();
 }
 
 VXMBomGenerator::~VXMBomGenerator() {
-    _previewObjects.RemoveAll();
-    FreeFN();
-    FreeMN();
-}
-
-void VXMBomGenerator::ReadSettings() {
-    void* found = nullptr;
-    QORInstantiateComponent("VXMMVWMBOMViewerSettingCtrl", IID_VXMIMVWMBOMViewerSettingAtt, &found);
-    const auto settings = VXMIMVWMBOMViewerSettingAtt_var::Adopt(static_cast<VXMIMVWMBOMViewerSettingAtt*>(found));
-    int bit = 1;
-    for (const VXMFastenerType& type : VXMFastenerTypes) {
-        _fastenersShowMode += IsOn(settings, type.GetShow) ? bit : 0;
-        bit <<= 1;
-    }
-    _assignedFastenersShowMode = IsOn(settings, &VXMIMVWMBOMViewerSettingAtt::GetShowAssignedFastenersOnly) ? 1 : 0;
-}
-
-void VXMBomGenerator::ReadAlgorithm() {
-    QORUnicodeString value(QORGetEnv("FAB_BOM_OLD_ALGORITHM"));
-    value.ToUpper();
-    _useOldAlgorithm = value.Compare("TRUE") != 0 ? 1 : 0;
+    _state->last.previewObjects.RemoveAll();
 }
 
 DOM_Document& VXMBomGenerator::GetBom(unsigned char iForce) {
-    if (_bomBuilt != 0 && iForce != 1) {
-        return _document;
+    if (_state->isBusy && !_state->isBuilt) {
+        _state->ExpectIdle("GetBom");
     }
-    Computation computation(*this);
-    _document = DOM_Document::createDocument();
-    _rootElement = _document.createElement("BOM");
-    _document.appendChild(_rootElement);
-    MainCheckFlow();
-    FreeMN(); // without a root nothing has dropped the tree before
-    VXMFabFlowNode* const last = GetLastNodeInFlow(_firstFlowNode);
-    MakeTopNode();
-    BuildAndClean(last);
-    DisplayMBOM(_rootElement, _topNode);
-    _bomBuilt = 1;
-    computation.Succeed();
-    return _document;
+    if (_state->isBusy || (_state->isBuilt && iForce != 1)) {
+        return _state->last.document;
+    }
+    const QORWork work;
+    _state->Compute([this](VXMBomComputation& ioComputation) {
+        VXMBomResult& result = ioComputation.result;
+        result.document = DOM_Document::createDocument();
+        result.rootElement = result.document.createElement("BOM");
+        result.document.appendChild(result.rootElement);
+        _state->Analyse(*this);
+        _state->BuildAndClean(*this);
+        DisplayMBOM(result.rootElement, GetTopNode());
+        _state->last = std::move(result);
+        _state->isBuilt = true;
+    });
+    return _state->last.document;
 }
 
-void VXMBomGenerator::MakeTopNode() {
-    auto top = std::make_unique<VXMFabMBOMNode>(QORBaseUnknown_var(), 0, 0, VXMFabMBOMNode::AT_Top, 1);
-    AddMBOMNodeToList(top.get());
-    SetTopNode(top.release());
-}
-
-void VXMBomGenerator::BuildAndClean(VXMFabFlowNode* iLast) {
-    const bool old = _useOldAlgorithm != 0;
-    old ? CreateOldMBOM(iLast, _topNode, 1) : CreateMBOM(iLast, _topNode, 1);
-    TraceMBOM1();
-    TraceMBOM2();
-    CleanMBOM_RemoveAssignments();
-    TraceMBOM2();
+/// The two algorithms and the order of their passes.
+void VXMBomGenerator::State::BuildAndClean(VXMBomGenerator& ioGenerator) const {
+    VXMBomGenerator& bom = ioGenerator;
+    VXMFabFlowNode* const end = bom.GetLastNodeInFlow(computation->graph.GetFirst());
+    auto made = std::make_unique<VXMFabMBOMNode>(QORBaseUnknown_var(), 0, 0, VXMFabMBOMNode::AT_Top, 1);
+    bom.AddMBOMNodeToList(made.get());
+    VXMFabMBOMNode* const top = made.release();
+    bom.SetTopNode(top);
+    usesLegacyAlgorithm ? bom.CreateOldMBOM(end, top, 1) : bom.CreateMBOM(end, top, 1);
+    bom.TraceMBOM1();
+    bom.TraceMBOM2();
+    bom.CleanMBOM_RemoveAssignments();
+    bom.TraceMBOM2();
     QORHashDico met(10);
-    old ? CleanMBOM_1(_topNode, met) : CleanMBOM_ProcessAssignments();
-    TraceMBOM2();
-    old ? CleanMBOM_2(_topNode) : CleanMBOM_3(_topNode, met);
-    TraceMBOM2();
+    usesLegacyAlgorithm ? bom.CleanMBOM_1(top, met) : bom.CleanMBOM_ProcessAssignments();
+    bom.TraceMBOM2();
+    usesLegacyAlgorithm ? bom.CleanMBOM_2(top) : bom.CleanMBOM_3(top, met);
+    bom.TraceMBOM2();
+}
+
+QORListValQORBaseUnknown_var VXMBomGenerator::GetPreviewObjects() {
+    return _state->last.previewObjects;
 }
 
 void VXMBomGenerator::MainCheckFlow() {
-    if (!_rootObject) {
-        return;
+    _state->ExpectIdle("MainCheckFlow");
+    if (_state->root) {
+        _state->Compute([this](VXMBomComputation&) { _state->Analyse(*this); });
     }
-    FreeFN();
-    FreeMN();
-    _counter = 1;
-    const VXMFirstItemSearch::Keeping keeping(*_firstItems);
-    const StationsKept stations(_stations);
-    std::unique_ptr<VXMFabFlowNode> first(CreateFlowNode(_rootObject, 0));
-    if (!first) {
-        return;
-    }
-    UpdateFlowNodeLists(first.get());
-    _firstFlowNode = first.release();
-    CheckFlow(nullptr, _firstFlowNode, 0);
-    TraceFlow();
-    TraceFlowNodes();
 }
 
-QORBaseUnknown_var
-VXMBomGenerator::SearchFirstItem(const QORBaseUnknown_var& iItem,
-                                 const std::function<std::optional<QORBaseUnknown_var>()>& iFirstPredecessor) {
-    if (!iItem) {
-        return iItem;
+void VXMBomGenerator::State::Analyse(VXMBomGenerator& ioGenerator) {
+    if (!root) {
+        return;
     }
-    if (const auto known = _firstItems->Find(iItem)) {
-        return *known;
+    VXMBomComputation& walked = *computation;
+    walked.firstItems.emplace(VXMFirstItems::Answers::Kept);
+    walked.stations.emplace();
+    walked.flowEnds.emplace();
+    std::unique_ptr<VXMFabFlowNode> first(ioGenerator.CreateFlowNode(root, 0));
+    if (first) {
+        ioGenerator.UpdateFlowNodeLists(first.get());
+        walked.graph.SetFirst(first.release());
+        ioGenerator.CheckFlow(nullptr, walked.graph.GetFirst(), 0);
+        ioGenerator.TraceFlow();
+        TraceFlowNodes();
     }
-    VXMFirstItemSearch::Step step(*_firstItems, iItem);
-    QORBaseUnknown_var first = iItem;
-    if (const auto predecessor = iFirstPredecessor()) {
-        QORCallDeep([&] { first = GetFirstFlowNode(*predecessor); });
-    }
-    step.Conclude(first);
-    return first;
+    walked.firstItems.reset();
+    walked.stations.reset();
+    walked.flowEnds.reset();
 }
 
 VXMFabFlowNode* VXMBomGenerator::GetLastNodeInFlow(VXMFabFlowNode* iNode) {
-    return VXMFlowEnds::Find(iNode);
+    std::optional<VXMFlowEnds>& ends = _state->computation->flowEnds; // while a walk runs
+    return ends ? ends->Find(iNode) : VXMFlowEnds::Walk(iNode);
 }
 
 VXMFabFlowNode* VXMBomGenerator::CheckUse(const QORBaseUnknown_var& iObject) {
-    if (!iObject) {
-        return nullptr;
-    }
-    QORUnicodeString id;
-    id.BuildFromNum(QORModelIdentificator(iObject->GetImpl(0)).GetIntId(), "%d");
-    return static_cast<VXMFabFlowNode*>(_flowNodeDico.Locate(id));
+    return iObject ? _state->computation->graph.Find(QORModelIdentificator(iObject->GetImpl(0)).GetIntId()) : nullptr;
+}
+
+VXMFabMBOMNode* VXMBomGenerator::GetTopNode() const {
+    return _state->computation->tree.GetTop();
+}
+
+void VXMBomGenerator::SetTopNode(VXMFabMBOMNode* iNode) {
+    _state->computation->tree.SetTop(iNode);
+}
+
+int VXMBomGenerator::GetCounter() const {
+    return _state->computation->graph.GetCounter();
+}
+
+void VXMBomGenerator::IncreaseCounter() {
+    _state->computation->graph.IncreaseCounter();
+}
+
+int VXMBomGenerator::GetFastenersShowMode() const {
+    return _state->fastenersShowMode;
+}
+
+unsigned char VXMBomGenerator::GetAssignedFastenersShowMode() const {
+    return _state->assignedFastenersShowMode;
 }
 
 void VXMBomGenerator::UpdateFlowNodeLists(VXMFabFlowNode* iNode) {
@@ -203,52 +183,23 @@ void VXMBomGenerator::UpdateFlowNodeLists(VXMFabFlowNode* iNode) {
 }
 
 void VXMBomGenerator::InsertToFlowNodeDico(VXMFabFlowNode* iNode) {
-    if (iNode) {
-        _flowNodeDico.Insert(iNode->GetIDString(), iNode);
-    }
+    _state->computation->graph.Enter(iNode);
 }
 
 void VXMBomGenerator::AppendToFlowNodeList(VXMFabFlowNode* iNode) {
-    _flowNodeList.Append(iNode);
+    _state->computation->graph.Append(iNode);
 }
 
 void VXMBomGenerator::AddMBOMNodeToList(VXMFabMBOMNode* iNode) {
-    if (!iNode || iNode->GetAT() < VXMFabMBOMNode::AT_Top || iNode->GetAT() > VXMFabMBOMNode::AT_Fastener) {
-        return;
-    }
-    _mbomNodeIDs[iNode->GetAT()].Add(iNode->GetID());
-    const QORUnicodeString id = iNode->GetIDString();
-    const int position = _usedIDs.Locate(id);
-    if (position < 1) {
-        _usedIDs.Append(id);
-        _usedIDCounts.Append(1);
-    } else {
-        _usedIDCounts.Replace(position, _usedIDCounts[position] + 1);
-    }
-    // Last, so that a node that couldn't be entered everywhere isn't owned here yet.
-    _mbomNodes[iNode->GetAT()].Append(iNode);
+    _state->computation->tree.Add(iNode);
 }
 
 void VXMBomGenerator::FreeFN() {
-    for (void* node : _flowNodeList) {
-        delete static_cast<VXMFabFlowNode*>(node);
-    }
-    _flowNodeList.RemoveAll();
-    _flowNodeDico.RemoveAll();
-    _firstFlowNode = nullptr;
+    _state->ExpectIdle("FreeFN");
+    _state->computation->graph.Free();
 }
 
 void VXMBomGenerator::FreeMN() {
-    for (int type = VXMFabMBOMNode::AT_Top; type <= VXMFabMBOMNode::AT_Fastener; ++type) {
-        const VXMFabPlaces& nodes = _mbomNodes[type].GetPlaces();
-        for (int place = 0; place < nodes.End(); ++place) {
-            delete nodes.At(place);
-        }
-        _mbomNodes[type].RemoveAll();
-        _mbomNodeIDs[type].RemoveAll();
-    }
-    // What a tree entered goes with it, so that a BOM built anew equals that of a new generator.
-    _removedIDs.RemoveAll();
-    _usedIDs.RemoveAll();
-    _usedIDCounts.RemoveAll();
+    _state->ExpectIdle("FreeMN");
+    _state->computation->tree.Free();
 }

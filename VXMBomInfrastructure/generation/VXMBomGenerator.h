@@ -2,32 +2,24 @@
 
 #include "QORPlatform/collections/QORHashDico.h"
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
-#include "QORPlatform/collections/QORListValQORUnicodeString.h"
-#include "QORPlatform/collections/QORRawCollPV.h"
 #include "QORPlatform/dom/DOM_Document.h"
 #include "VXMBomInfrastructure/VXMExport.h"
 #include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
-#include "VXMBomInfrastructure/nodes/VXMFabIDCounts.h"
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
-#include "VXMBomInfrastructure/nodes/VXMFabMBOMRegister.h"
 
-#include <array>
-#include <functional>
 #include <memory>
-#include <optional>
-#include <unordered_map>
 
-class VXMFirstItemSearch;
-class VXMFlowWalk;
-class VXMStationMemo;
+struct VXMBomComputation;
 
 /// Derives the manufacturing bill of materials of one model object, the root: a document and a list of objects.
 ///
 /// A subclass walks its kind of model into a flow graph; this class turns the graph into a tree of MBOM nodes, cleans
 /// the tree and writes the document. Settings and the choice of the algorithm are taken once, at construction. Not
 /// counted: whoever makes a generator deletes it. It owns its flow nodes and MBOM nodes and replaces them with each
-/// computation. An exception of the model passes through; what the last successful computation gave is then back in
-/// place and is served until the next one.
+/// computation. An exception of the model passes through; what the last successful computation gave is then in place
+/// as before and is served until the next one.
+///
+/// Environment: with FAB_BOM_OLD_ALGORITHM set to TRUE, in any mix of cases, the legacy algorithm is used.
 class VXM_EXPORT VXMBomGenerator {
 public:
     using AssignmentType = VXMFabMBOMNode::AssignmentType;
@@ -58,13 +50,15 @@ public:
     // The computation.
 
     /// The document. 1 forces a new computation; with any other value a document that is there is served as it is.
-    /// Copy the handle: the next computation replaces what the reference refers to.
+    /// Copy the handle: the next computation replaces what the reference refers to. A model that asks while it is being
+    /// read gets the last document, whatever the flag; when there is none yet, std::logic_error.
     DOM_Document& GetBom(unsigned char iForce);
 
     /// The object behind every element of the document but the top one, an element's descendants before itself.
-    QORListValQORBaseUnknown_var GetPreviewObjects() { return _previewObjects; }
+    QORListValQORBaseUnknown_var GetPreviewObjects();
 
-    /// Runs the analysis of the model: drops graph and tree, makes the node of the root and walks from it.
+    /// Runs the analysis of the model: drops graph and tree, makes the node of the root and walks from it. A model that
+    /// calls this, or drops graph or tree, while it is being read gets std::logic_error.
     void MainCheckFlow();
 
     /// The end of the flow along first successors, null for null. Where they run in a circle, the last node before the
@@ -76,16 +70,17 @@ public:
 
     // Registries.
 
-    VXMFabMBOMNode* GetTopNode() const { return _topNode; }
-    void SetTopNode(VXMFabMBOMNode* iNode) { _topNode = iNode; }
+    /// The top node of the tree, null while there is none.
+    VXMFabMBOMNode* GetTopNode() const;
+    void SetTopNode(VXMFabMBOMNode* iNode);
 
     /// Number that the next flow node gets, from 1.
-    int GetCounter() const { return _counter; }
-    void IncreaseCounter() { ++_counter; }
+    int GetCounter() const;
+    void IncreaseCounter();
 
     /// Mask of the fastener types to show, and 1 for assigned fasteners only.
-    int GetFastenersShowMode() const { return _fastenersShowMode; }
-    unsigned char GetAssignedFastenersShowMode() const { return _assignedFastenersShowMode; }
+    int GetFastenersShowMode() const;
+    unsigned char GetAssignedFastenersShowMode() const;
 
     /// Registers a new flow node, which the generator owns from then on. A null node takes a number all the same and
     /// leaves a null entry in the list, but none in the dictionary.
@@ -97,7 +92,8 @@ public:
     /// type.
     void AddMBOMNodeToList(VXMFabMBOMNode* iNode);
 
-    /// Drop the flow graph, and the MBOM tree.
+    /// Drop the flow graph, and the MBOM tree with the numbers of its nodes. Which products were taken out of the flow
+    /// stays known until the next computation.
     void FreeFN();
     void FreeMN();
 
@@ -107,7 +103,7 @@ public:
     /// each product below it. A flow node is taken once per path that leads from it to the end.
     void CreateMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber);
 
-    /// The older way: nodes of a step, and of all that comes before it, stand under the step's first output product;
+    /// The legacy way: nodes of a step, and of all that comes before it, stand under the step's first output product;
     /// structure comes from assemblies only.
     void CreateOldMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber);
 
@@ -115,7 +111,7 @@ public:
     /// that were expanded on the way down to iNode; an assembly that is among them stays a leaf.
     int CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber, QORListValQORBaseUnknown_var iPath);
 
-    /// The same from manufacturing assemblies alone, for the older way.
+    /// The same from manufacturing assemblies alone, for the legacy way.
     int CreateOldMAChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber);
 
     /// 1 when a flow node's list of that type takes part in the bill: inside a station only what loading activities
@@ -133,7 +129,7 @@ public:
     /// Takes away every removable node whose product was met before, with all below it. ioMet holds what was met.
     void CleanMBOM_3(VXMFabMBOMNode* iNode, QORHashDico& ioMet);
 
-    /// Passes of the older way: repeats among the children of iNode go without what is below them, deeper ones with
+    /// Passes of the legacy way: repeats among the children of iNode go without what is below them, deeper ones with
     /// it; and repeats beside each other at any level.
     void CleanMBOM_1(VXMFabMBOMNode* iNode, QORHashDico& ioMet);
     void CleanMBOM_2(VXMFabMBOMNode* iNode);
@@ -172,59 +168,9 @@ public:
     void TraceMBOM1();
     void TraceMBOM2();
 
-protected:
-    /// GetFirstFlowNode for a subclass that knows an item's first predecessor, none where the flow begins. It calls
-    /// itself through the object, at any depth.
-    QORBaseUnknown_var SearchFirstItem(const QORBaseUnknown_var& iItem,
-                                       const std::function<std::optional<QORBaseUnknown_var>()>& iFirstPredecessor);
-
-    /// Which activities stand in stations; null unless a walk is under way.
-    VXMStationMemo* Stations() { return _stations; }
-
 private:
-    friend class VXMFlowWalk;
-    friend class VXMStructureExpansion;
-    class Computation;
-    class RepeatMarks;
+    friend struct VXMBomComputation;
 
-    void ReadSettings();
-    void ReadAlgorithm();
-    void MakeTopNode();
-    void BuildAndClean(VXMFabFlowNode* iLast);
-    void TraceFlowNodes();
-
-    template <class TakeStep>
-    void WalkBackwards(const char* iMark, VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber,
-                       TakeStep iTakeStep);
-    VXMFabMBOMNode* AttachNode(const QORBaseUnknown_var& iProduct, int iLevel, int iNumber, AssignmentType iType,
-                               unsigned char iRemovable, VXMFabMBOMNode* iParent);
-
-    VXMFabMBOMNode* FindAssignmentBeside(VXMFabMBOMNode* iNode);
-    VXMFabMBOMNode* FindRepeatBelow(VXMFabMBOMNode* iNode);
-    bool MayHaveRepeatBelow(const VXMFabMBOMNode* iNode) const;
-    bool IsAssigned(const VXMFabMBOMNode* iNode) const;
-
-    int _counter = 1;
-    int _fastenersShowMode = 0;
-    unsigned char _assignedFastenersShowMode = 0;
-    QORRawCollPV _flowNodeList;
-    QORHashDico _flowNodeDico{10};
-    DOM_Document _document;
-    DOM_Element _rootElement;
-    QORBaseUnknown_var _rootObject;
-    unsigned char _bomBuilt = 0;
-    QORListValQORBaseUnknown_var _previewObjects;
-    VXMFabFlowNode* _firstFlowNode = nullptr;
-    std::array<VXMFabMBOMRegister, 6> _mbomNodes; // by assignment type: the living nodes of the MBOM
-    std::array<VXMFabIDCounts, 6> _mbomNodeIDs;   // by assignment type: the identity numbers of those nodes
-    QORListValQORUnicodeString _removedIDs;
-    QORListValQORUnicodeString _usedIDs;
-    QORRawCollint _usedIDCounts;
-    unsigned char _useOldAlgorithm = 0;
-    VXMFabMBOMNode* _topNode = nullptr;
-
-    std::unique_ptr<VXMFirstItemSearch> _firstItems;
-    VXMStationMemo* _stations = nullptr;       // only while a walk runs
-    std::unordered_map<int, int> _childVisits; // child visits under way: identity number, objects met at its start
-    const RepeatMarks* _repeatMarks = nullptr; // only while a pass runs
+    class State;
+    std::unique_ptr<State> _state;
 };

@@ -1,244 +1,190 @@
-// Cleaning of the MBOM.
+// Cleaning of the MBOM, pass by pass.
 //
 // Present way: removals and assignments of a product that stand beside each other go in pairs; process assignments go
 // where the product is assigned beside them otherwise; and over the whole tree, depth first, the first node of each
-// product stays and later removable ones go with all below them. The last step of the flow
-// stands first in the tree, so a product is shown where it was named last.
+// product stays and later removable ones go with all below them. The last step of the flow stands first in the tree, so
+// a product is shown where it was named last.
 //
-// Older way: the same pairing, then repeats go twice over, once over the whole tree and once among brothers.
+// Legacy way: the same pairing, then repeats go twice over, once over the whole tree and once among siblings.
 //
-// A pass goes through a list by places, so nodes that leave, or are lifted to its end, don't disturb it: what was
-// lifted while a pass runs over a list isn't part of that run.
+// Every loop reads its count at the start. A node that goes lowers it, and the loop stays at the position; what was
+// lifted to the end meanwhile isn't part of that run.
 
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "QORPlatform/framework/QORDeepStack.h"
+#include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
 
-#include <unordered_set>
-#include <utility>
-#include <vector>
+namespace {
 
-/// The nodes that have, somewhere below, an assignment with the identity of its own parent. Made once for a pass: a
-/// pass changes what is below a node only after that node's turn, since a node was registered before all that is below
-/// it.
-class VXMBomGenerator::RepeatMarks {
-public:
-    explicit RepeatMarks(VXMBomGenerator& ioGenerator) : _generator(ioGenerator) {
-        for (const auto type : {VXMFabMBOMNode::AT_FirstAssign, VXMFabMBOMNode::AT_Process}) {
-            const VXMFabPlaces& nodes = ioGenerator._mbomNodes[type].GetPlaces();
-            for (int place = 0; place < nodes.End(); ++place) {
-                MarkAbove(nodes.At(place));
-            }
+/// Goes through the nodes of one type with a step of a pass, which gives 1 when its node has gone.
+template <class Step>
+void GoThrough(const VXMPlaces& iNodes, Step iStep) {
+    int count = iNodes.Size();
+    int position = 1;
+    while (position <= count) {
+        if (iStep(iNodes[position]) == 1) {
+            --count;
+        } else {
+            ++position;
         }
-        _generator._repeatMarks = this;
     }
-    ~RepeatMarks() { _generator._repeatMarks = nullptr; }
-    RepeatMarks(const RepeatMarks&) = delete;
-    RepeatMarks& operator=(const RepeatMarks&) = delete;
+}
 
-    bool HasBelow(const VXMFabMBOMNode* iNode) const { return _marked.contains(iNode); }
+/// What serves the searches of a pass while it runs.
+class PassUnderWay {
+public:
+    explicit PassUnderWay(VXMBomComputation& ioComputation) : _computation(ioComputation) {
+        _computation.siblings.emplace(_computation.tree);
+        _computation.repeats.emplace(_computation.tree);
+    }
+    ~PassUnderWay() {
+        _computation.siblings.reset();
+        _computation.repeats.reset();
+    }
+    PassUnderWay(const PassUnderWay&) = delete;
+    PassUnderWay& operator=(const PassUnderWay&) = delete;
 
 private:
-    void MarkAbove(const VXMFabMBOMNode* iNode) {
-        const VXMFabMBOMNode* above = iNode ? iNode->GetPredecessor() : nullptr;
-        if (!above || above->GetID() != iNode->GetID()) {
-            return;
-        }
-        while (above && _marked.insert(above).second) {
-            above = above->GetPredecessor();
-        }
-    }
-
-    VXMBomGenerator& _generator;
-    std::unordered_set<const VXMFabMBOMNode*> _marked;
+    VXMBomComputation& _computation;
 };
 
+} // namespace
+
 void VXMBomGenerator::CleanMBOM_RemoveAssignments() {
-    const RepeatMarks marks(*this);
-    const VXMFabPlaces& removals = _mbomNodes[VXMFabMBOMNode::AT_Remove].GetPlaces();
-    for (int place = 0; place < removals.End(); ++place) {
-        CheckPreviousAssignments(removals.At(place));
-    }
+    const PassUnderWay pass(*_state->computation);
+    GoThrough(_state->computation->tree.GetNodes(VXMFabMBOMNode::AT_Remove),
+              [this](VXMFabMBOMNode* iNode) { return CheckPreviousAssignments(iNode); });
 }
 
 void VXMBomGenerator::CleanMBOM_ProcessAssignments() {
-    const RepeatMarks marks(*this);
-    const VXMFabPlaces& assignments = _mbomNodes[VXMFabMBOMNode::AT_Process].GetPlaces();
-    for (int place = 0; place < assignments.End(); ++place) {
-        CheckPreviousFPAssignments(assignments.At(place));
-    }
+    const PassUnderWay pass(*_state->computation);
+    GoThrough(_state->computation->tree.GetNodes(VXMFabMBOMNode::AT_Process),
+              [this](VXMFabMBOMNode* iNode) { return CheckPreviousFPAssignments(iNode); });
 }
 
 unsigned char VXMBomGenerator::CheckPreviousAssignments(VXMFabMBOMNode* iNode) {
-    if (!iNode || !IsAssigned(iNode)) {
+    if (!iNode || !_state->computation->tree.IsAssigned(iNode->GetID())) {
         return 0;
     }
     VXMFabMBOMNode* partner = RemoveParallelRemoveAssignment(iNode);
-    if (!partner && MayHaveRepeatBelow(iNode)) {
+    if (!partner) {
         partner = RemoveRemoveAssignment(iNode);
     }
     if (!partner) {
         return 0;
     }
-    QORUnicodeString id = iNode->GetIDString();
+    const int id = iNode->GetID();
     const bool isPartnerGone = RemoveNodeFromMBOMFlow(partner) == 1;
     const bool isNodeGone = RemoveNodeFromMBOMFlow(iNode) == 1;
-    _removedIDs.Append(std::move(id));
+    _state->computation->tree.NoteRemoved(id);
     return isPartnerGone && isNodeGone ? 1 : 0;
 }
 
 unsigned char VXMBomGenerator::CheckPreviousFPAssignments(VXMFabMBOMNode* iNode) {
-    if (!iNode || !IsAssigned(iNode)) {
+    if (!iNode || !_state->computation->tree.IsAssigned(iNode->GetID())) {
         return 0;
     }
-    // Only whether there is another one matters, and within a pass the marks tell that without a search.
-    const bool isAssignedOtherwise =
-        RemoveParallelProcessAssignment(iNode) ||
-        (_repeatMarks ? _repeatMarks->HasBelow(iNode) : RemoveProcessAssignment(iNode) != nullptr);
+    const bool isAssignedOtherwise = RemoveParallelProcessAssignment(iNode) || _state->HasRepeatBelow(*iNode);
     return isAssignedOtherwise ? RemoveNodeFromMBOMFlow(iNode) : 0;
 }
 
-bool VXMBomGenerator::IsAssigned(const VXMFabMBOMNode* iNode) const {
-    return _mbomNodeIDs[VXMFabMBOMNode::AT_FirstAssign].Has(iNode->GetID()) ||
-           _mbomNodeIDs[VXMFabMBOMNode::AT_Process].Has(iNode->GetID());
-}
-
-bool VXMBomGenerator::MayHaveRepeatBelow(const VXMFabMBOMNode* iNode) const {
-    return !_repeatMarks || _repeatMarks->HasBelow(iNode);
-}
+// The search beside a node, under the two names that the passes have for it.
 
 VXMFabMBOMNode* VXMBomGenerator::RemoveParallelRemoveAssignment(VXMFabMBOMNode* iNode) {
-    return FindAssignmentBeside(iNode);
+    return _state->FindAssignmentBeside(iNode);
 }
 
 VXMFabMBOMNode* VXMBomGenerator::RemoveParallelProcessAssignment(VXMFabMBOMNode* iNode) {
-    return FindAssignmentBeside(iNode);
+    return _state->FindAssignmentBeside(iNode);
 }
 
-VXMFabMBOMNode* VXMBomGenerator::FindAssignmentBeside(VXMFabMBOMNode* iNode) {
+VXMFabMBOMNode* VXMBomGenerator::State::FindAssignmentBeside(VXMFabMBOMNode* iNode) const {
     if (!iNode || !iNode->GetPredecessor()) {
         return nullptr;
     }
-    return iNode->GetPredecessor()->FindAssignment(iNode->GetID(), iNode);
+    std::optional<VXMSiblingChains>& siblings = computation->siblings;
+    return siblings ? siblings->FindBeside(*iNode) : VXMSiblingChains::SearchBeside(*iNode);
 }
 
+// The search below a node, likewise.
+
 VXMFabMBOMNode* VXMBomGenerator::RemoveRemoveAssignment(VXMFabMBOMNode* iNode) {
-    return FindRepeatBelow(iNode);
+    return _state->FindRepeatBelow(iNode);
 }
 
 VXMFabMBOMNode* VXMBomGenerator::RemoveProcessAssignment(VXMFabMBOMNode* iNode) {
-    return FindRepeatBelow(iNode);
+    return _state->FindRepeatBelow(iNode);
 }
 
-VXMFabMBOMNode* VXMBomGenerator::FindRepeatBelow(VXMFabMBOMNode* iNode) {
-    std::vector<std::pair<const VXMFabMBOMNode*, int>> path; // each with the next place to look at
-    if (iNode) {
-        path.emplace_back(iNode, 0);
+VXMFabMBOMNode* VXMBomGenerator::State::FindRepeatBelow(VXMFabMBOMNode* iNode) const {
+    std::optional<VXMRepeatMarks>& marks = computation->repeats;
+    if (!iNode || (marks && marks->HasBelow(*iNode) == false)) {
+        return nullptr;
     }
-    while (!path.empty()) {
-        auto& [parent, place] = path.back();
-        if (place >= parent->GetSuccessorPlaces().End()) {
-            path.pop_back();
-            continue;
-        }
-        VXMFabMBOMNode* const child = parent->GetSuccessorPlaces().At(place++);
-        if (!child) {
-            continue;
-        }
-        if (child->GetID() == parent->GetID() && child->IsAssignment()) {
-            return child;
-        }
-        path.emplace_back(child, 0);
-    }
-    return nullptr;
+    return VXMRepeatMarks::SearchBelow(*iNode);
+}
+
+/// Whether FindRepeatBelow finds anything.
+bool VXMBomGenerator::State::HasRepeatBelow(VXMFabMBOMNode& iNode) const {
+    std::optional<VXMRepeatMarks>& marks = computation->repeats;
+    const std::optional<bool> known = marks ? marks->HasBelow(iNode) : std::nullopt;
+    return known ? *known : VXMRepeatMarks::SearchBelow(iNode) != nullptr;
 }
 
 namespace {
 
-bool WasMet(const VXMFabMBOMNode& iNode, const QORHashDico& iMet) {
+bool WasMet(const QORHashDico& iMet, const VXMFabMBOMNode& iNode) {
     return iMet.Locate(iNode.GetIDString()) != nullptr;
 }
 
-bool IsRepeat(const VXMFabMBOMNode& iNode, const QORHashDico& iMet) {
-    return iNode.IsRemovable() == 1 && WasMet(iNode, iMet);
+/// The loop of the three passes over repeats: each child that is removable and whose product was met goes; any other
+/// is entered into what was met and stays.
+template <class Remove, class Stay>
+void ThinOut(VXMFabMBOMNode& ioNode, QORHashDico& ioMet, Remove iRemove, Stay iStay) {
+    int count = ioNode.GetNumberOfSuccessors();
+    int position = 1;
+    while (position <= count) {
+        VXMFabMBOMNode* const child = ioNode.GetSuccessor(position);
+        if (child->IsRemovable() == 1 && WasMet(ioMet, *child)) {
+            iRemove(child);
+            --count;
+        } else {
+            ioMet.Insert(child->GetIDString(), child);
+            iStay(child);
+            ++position;
+        }
+    }
 }
 
 } // namespace
 
 void VXMBomGenerator::CleanMBOM_3(VXMFabMBOMNode* iNode, QORHashDico& ioMet) {
-    struct Frame {
-        VXMFabMBOMNode* node;
-        int place;
-        int end;
-    };
-    std::vector<Frame> path;
-    const auto enter = [&path](VXMFabMBOMNode* iEntered) {
-        path.push_back({iEntered, 0, iEntered->GetSuccessorPlaces().End()});
-    };
     if (iNode) {
-        enter(iNode);
-    }
-    while (!path.empty()) {
-        Frame& frame = path.back();
-        if (frame.place >= frame.end) {
-            path.pop_back();
-            continue;
-        }
-        VXMFabMBOMNode* const child = frame.node->GetSuccessorPlaces().At(frame.place++);
-        if (!child) {
-            continue;
-        }
-        if (IsRepeat(*child, ioMet)) {
-            RemoveNodeAndChildrenFromMBOMFlow(child);
-        } else {
-            ioMet.Insert(child->GetIDString(), child);
-            enter(child);
-        }
+        ThinOut(
+            *iNode, ioMet, [this](VXMFabMBOMNode* iChild) { RemoveNodeAndChildrenFromMBOMFlow(iChild); },
+            [&](VXMFabMBOMNode* iChild) { QORCallDeep([&] { CleanMBOM_3(iChild, ioMet); }); });
     }
 }
 
 void VXMBomGenerator::CleanMBOM_1(VXMFabMBOMNode* iNode, QORHashDico& ioMet) {
-    if (!iNode) {
-        return;
-    }
-    const VXMFabPlaces& children = iNode->GetSuccessorPlaces();
-    const int end = children.End();
-    for (int place = 0; place < end; ++place) {
-        VXMFabMBOMNode* const child = children.At(place);
-        if (!child) {
-            continue;
-        }
-        if (IsRepeat(*child, ioMet)) {
-            RemoveNodeFromMBOMFlow(child);
-        } else {
-            ioMet.Insert(child->GetIDString(), child);
-            CleanMBOM_3(child, ioMet);
-        }
+    if (iNode) {
+        ThinOut(
+            *iNode, ioMet, [this](VXMFabMBOMNode* iChild) { RemoveNodeFromMBOMFlow(iChild); },
+            [&](VXMFabMBOMNode* iChild) { CleanMBOM_3(iChild, ioMet); });
     }
 }
 
 void VXMBomGenerator::CleanMBOM_2(VXMFabMBOMNode* iNode) {
-    std::vector<VXMFabMBOMNode*> pending;
-    if (iNode) {
-        pending.push_back(iNode);
+    if (!iNode) {
+        return;
     }
-    while (!pending.empty()) {
-        VXMFabMBOMNode* const node = pending.back();
-        pending.pop_back();
-        const VXMFabPlaces& children = node->GetSuccessorPlaces();
+    {
         QORHashDico met(10);
-        const int end = children.End();
-        for (int place = 0; place < end; ++place) {
-            VXMFabMBOMNode* const child = children.At(place);
-            if (child && IsRepeat(*child, met)) {
-                RemoveNodeFromMBOMFlow(child);
-            } else if (child) {
-                met.Insert(child->GetIDString(), child);
-            }
-        }
-        // What was lifted stands at the end by now and has its own children cleaned like the rest.
-        for (int place = 0; place < children.End(); ++place) {
-            if (children.At(place)) {
-                pending.push_back(children.At(place));
-            }
-        }
+        ThinOut(
+            *iNode, met, [this](VXMFabMBOMNode* iChild) { RemoveNodeFromMBOMFlow(iChild); }, [](VXMFabMBOMNode*) {});
+    }
+    // What was lifted stands at the end by now and has its own children cleaned like the rest.
+    const int count = iNode->GetNumberOfSuccessors();
+    for (int position = 1; position <= count; ++position) {
+        QORCallDeep([&] { CleanMBOM_2(iNode->GetSuccessor(position)); });
     }
 }

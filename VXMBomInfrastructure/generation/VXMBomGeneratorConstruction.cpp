@@ -1,21 +1,18 @@
-// From the flow graph to the raw MBOM.
+// From the flow graph to the MBOM: the graph is walked backwards from its end, and every step on the way makes one node
+// per entry of each list that counts. The present build puts them all under the top node; the legacy one opens a level
+// with the first output product of a step, under which the rest of the step and all that comes before it go.
 //
-// Both builds walk the graph backwards from the end of the flow, each path to its very start, and make one node per
-// entry of each list that counts, in the order of kVXMFlowLists. The present build puts them all under the top node;
-// the older one opens a level with the first output product of a step, under which the rest of the step and all that
-// comes before it go. A flow node that is on the present path isn't entered again, so that loops end. The number runs
-// along each path by itself and starts anew at each predecessor.
+// A step is taken once per path that leads from it to the end; one that is on the present path isn't entered again, so
+// that loops end. The number runs along each path by itself and starts anew at each predecessor.
 
+#include "QORPlatform/framework/QORDeepStack.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
-#include "VXMBomInfrastructure/generation/VXMBackwardPath.h"
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 #include "VXMBomInfrastructure/generation/VXMFlowLists.h"
-#include "VXMBomInfrastructure/generation/VXMFruitfulSteps.h"
-#include "VXMBomInfrastructure/generation/VXMStructureExpansion.h"
+#include "VXMBomInfrastructure/generation/VXMStructure.h"
 
 #include <algorithm>
-#include <memory>
-#include <optional>
 
 unsigned char VXMBomGenerator::UseProducts(VXMFabFlowNode* iFlowNode, AssignmentType iType) {
     if (!iFlowNode) {
@@ -27,108 +24,116 @@ unsigned char VXMBomGenerator::UseProducts(VXMFabFlowNode* iFlowNode, Assignment
     return iType == VXMFabMBOMNode::AT_FirstAssign && iFlowNode->GetNodeType() == VXMFabFlowNode::NT_LOADING ? 1 : 0;
 }
 
-VXMFabMBOMNode* VXMBomGenerator::AttachNode(const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
-                                            AssignmentType iType, unsigned char iRemovable, VXMFabMBOMNode* iParent) {
-    auto made = std::make_unique<VXMFabMBOMNode>(iProduct, iLevel, iNumber, iType, iRemovable);
-    AddMBOMNodeToList(made.get());
-    VXMFabMBOMNode* const node = made.release();
-    iParent->AddSuccessor(node);
-    node->SetPredecessor(iParent);
-    return node;
-}
+namespace {
 
-/// Calls iTakeStep(flow node, parent, number) for each step, from the end of the flow backwards, once per path; it may
-/// change parent and number for the steps before. iMark goes to the trace for each call.
-template <class TakeStep>
-void VXMBomGenerator::WalkBackwards(const char* iMark, VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber,
-                                    TakeStep iTakeStep) {
-    VXMBackwardPath path;
-    const auto enter = [&](VXMFabFlowNode* iStep, VXMFabMBOMNode* iUnder, int iFrom) {
-        VXMBomViewerTrace.TraPutLN(iMark);
-        if (!iStep || !iUnder) {
+/// One call of a build: the step that it takes, and what both builds do alike with it.
+class StepBuild {
+public:
+    StepBuild(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iStep, int iLevel, int iNumber, VXMStructure::Kind iKind)
+        : _generator(ioGenerator), _step(iStep), _level(iLevel), _number(iNumber), _kind(iKind) {}
+
+    /// Makes the nodes of one list under a parent, each but a fastener with its structure. Gives the first of them,
+    /// null when the list is empty or doesn't count.
+    VXMFabMBOMNode* TakeList(const VXMFlowList& iList, VXMFabMBOMNode& iParent) {
+        if (_generator.UseProducts(&_step, iList.type) == 0) {
+            return nullptr;
+        }
+        VXMFabMBOMNode* first = nullptr;
+        const int count = (_step.*iList.count)();
+        for (int position = 1; position <= count; ++position) {
+            VXMFabMBOMNode& node =
+                VXMAttachNode(_generator, iParent, (_step.*iList.entry)(position), _level, _number++, iList.type, 1);
+            if (iList.type != VXMFabMBOMNode::AT_Fastener) {
+                _number = VXMStructure(_generator, _kind).Expand(node, _level, _number);
+            }
+            first = first ? first : &node;
+        }
+        return first;
+    }
+
+    /// Calls iCall(step, number) for each step before this one that the walk enters.
+    template <class Call>
+    void WalkOn(Call iCall) {
+        VXMBackwardWalk& walk = *VXMBomComputation::Of(_generator).backwardWalk;
+        const VXMBackwardWalk::OnPath onPath(walk, _step);
+        const int count = _step.GetNumberOfPredecessors();
+        for (int position = 1; position <= count; ++position) {
+            VXMFabFlowNode* const before = _step.GetPredecessor(position);
+            if (walk.Enters(before)) {
+                QORCallDeep([&] { iCall(before, _number); });
+            }
+        }
+    }
+
+private:
+    VXMBomGenerator& _generator;
+    VXMFabFlowNode& _step;
+    int _level;
+    int _number;
+    VXMStructure::Kind _kind;
+};
+
+/// The walk that begins with the first call of a build; calls within it find it there.
+class WalkUnderWay {
+public:
+    WalkUnderWay(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iEnd)
+        : _walk(VXMBomComputation::Of(ioGenerator).backwardWalk), _isFirst(!_walk) {
+        if (!_isFirst) {
             return;
         }
-        iTakeStep(*iStep, iUnder, iFrom);
-        path.Enter({.node = iStep, .parent = iUnder, .number = iFrom});
-    };
-    // A trace shows every call, so nothing is passed over then.
-    std::optional<VXMFruitfulSteps> fruitful;
-    if (!VXMBomViewerTrace.IsActive()) {
-        fruitful.emplace(iFlowNode, [this](VXMFabFlowNode* iStep) {
-            return std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
-                return (iStep->*iList.count)() > 0 && UseProducts(iStep, iList.type) != 0;
+        _walk.emplace(VXMBomComputation::Of(ioGenerator).graph.GetNodes());
+        if (!VXMBomViewerTrace.IsActive()) { // a trace shows every call
+            _walk->PassOverFruitless(iEnd, [&ioGenerator](VXMFabFlowNode& iStep) {
+                return std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
+                    return (iStep.*iList.count)() > 0 && ioGenerator.UseProducts(&iStep, iList.type) != 0;
+                });
             });
-        });
-    }
-    enter(iFlowNode, iParent, iNumber);
-    while (!path.IsEmpty()) {
-        VXMBackwardPath::Frame& frame = path.Top();
-        if (frame.nextPredecessor > frame.node->GetNumberOfPredecessors()) {
-            path.Leave();
-            continue;
-        }
-        VXMFabFlowNode* const before = frame.node->GetPredecessor(frame.nextPredecessor++);
-        if (!VXMBackwardPath::Holds(before) && !(fruitful && fruitful->MayPassOver(before))) {
-            enter(before, frame.parent, frame.number);
         }
     }
-}
+    ~WalkUnderWay() {
+        if (_isFirst) {
+            _walk.reset();
+        }
+    }
+    WalkUnderWay(const WalkUnderWay&) = delete;
+    WalkUnderWay& operator=(const WalkUnderWay&) = delete;
+
+private:
+    std::optional<VXMBackwardWalk>& _walk;
+    bool _isFirst;
+};
+
+} // namespace
 
 void VXMBomGenerator::CreateMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber) {
-    const auto takeStep = [this](VXMFabFlowNode& iStep, VXMFabMBOMNode*& ioParent, int& ioNumber) {
-        const int level = ioParent->GetLevel() + 1;
-        for (const VXMFlowList& list : kVXMFlowLists) {
-            VXMFabMBOMNode* const under = list.type == VXMFabMBOMNode::AT_Create ? GetTopNode() : ioParent;
-            if (!under || UseProducts(&iStep, list.type) == 0) {
-                continue;
-            }
-            const int count = (iStep.*list.count)();
-            for (int position = 1; position <= count; ++position) {
-                VXMFabMBOMNode* const node =
-                    AttachNode((iStep.*list.entry)(position), level, ioNumber++, list.type, 1, under);
-                if (list.type != VXMFabMBOMNode::AT_Fastener) {
-                    ioNumber = CreateProductChildren(node, level, ioNumber, QORListValQORBaseUnknown_var());
-                }
-            }
+    VXMBomViewerTrace.TraPutLN("--> VXMBomGenerator::CreateMBOM ");
+    if (!iFlowNode || !iParent) {
+        return;
+    }
+    const WalkUnderWay walk(*this, *iFlowNode);
+    StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesAndProducts);
+    for (const VXMFlowList& list : kVXMFlowLists) {
+        VXMFabMBOMNode* const parent = list.type == VXMFabMBOMNode::AT_Create ? GetTopNode() : iParent;
+        if (parent) {
+            step.TakeList(list, *parent);
         }
-    };
-    WalkBackwards("--> VXMBomGenerator::CreateMBOM ", iFlowNode, iParent, iNumber, takeStep);
+    }
+    step.WalkOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateMBOM(iBefore, iParent, iNext); });
 }
 
 void VXMBomGenerator::CreateOldMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber) {
-    const auto takeStep = [this](VXMFabFlowNode& iStep, VXMFabMBOMNode*& ioParent, int& ioNumber) {
-        VXMFabMBOMNode* const parent = ioParent;
-        const int level = parent->GetLevel() + 1;
-        for (const VXMFlowList& list : kVXMFlowLists) {
-            if (UseProducts(&iStep, list.type) == 0) {
-                continue;
-            }
-            const bool isOutput = list.type == VXMFabMBOMNode::AT_Create;
-            const int count = (iStep.*list.count)();
-            for (int position = 1; position <= count; ++position) {
-                VXMFabMBOMNode* const node = AttachNode((iStep.*list.entry)(position), level, ioNumber++, list.type, 1,
-                                                        isOutput ? parent : ioParent);
-                if (isOutput && position == 1) {
-                    ioParent = node;
-                }
-                if (list.type != VXMFabMBOMNode::AT_Fastener) {
-                    ioNumber = CreateOldMAChildren(node, level, ioNumber);
-                }
-            }
-        }
-    };
-    WalkBackwards("--> VXMBomGenerator::CreateOldMBOM ", iFlowNode, iParent, iNumber, takeStep);
-}
-
-int VXMBomGenerator::CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber,
-                                           QORListValQORBaseUnknown_var iPath) {
-    VXMStructureExpansion expansion(*this, VXMStructureExpansion::Kind::AssembliesAndProducts);
-    for (const QORBaseUnknown_var& object : iPath) {
-        expansion.EnterPath(object);
+    VXMBomViewerTrace.TraPutLN("--> VXMBomGenerator::CreateOldMBOM ");
+    if (!iFlowNode || !iParent) {
+        return;
     }
-    return expansion.Expand(iNode, iLevel, iNumber);
-}
-
-int VXMBomGenerator::CreateOldMAChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber) {
-    return VXMStructureExpansion(*this, VXMStructureExpansion::Kind::AssembliesOnly).Expand(iNode, iLevel, iNumber);
+    const WalkUnderWay walk(*this, *iFlowNode);
+    StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesOnly);
+    VXMFabMBOMNode* parent = iParent;
+    for (const VXMFlowList& list : kVXMFlowLists) {
+        VXMFabMBOMNode* const first = step.TakeList(list, *parent);
+        if (list.type == VXMFabMBOMNode::AT_Create && first) {
+            parent = first;
+        }
+    }
+    step.WalkOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateOldMBOM(iBefore, parent, iNext); });
 }

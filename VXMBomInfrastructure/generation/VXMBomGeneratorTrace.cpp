@@ -1,27 +1,16 @@
 // Dumps of the flow graph and of the MBOM tree. None of them costs anything while the trace is off.
 
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
 
 namespace {
 
 constexpr int kLastTypeListed = VXMFabMBOMNode::AT_Create; // fasteners aren't listed
 
 template <class Visit>
-void ForEachEntry(const QORHashDico& iNodes, Visit iVisit) {
-    int position = 0;
-    int visited = 0;
-    while (void* const node = iNodes.NextItem(position, visited)) {
-        iVisit(*static_cast<const VXMFabFlowNode*>(node));
-    }
-}
-
-template <class Visit>
-void ForEachNode(const VXMFabPlaces& iNodes, Visit iVisit) {
-    for (int place = 0; place < iNodes.End(); ++place) {
-        if (VXMFabMBOMNode* const node = iNodes.At(place)) {
-            iVisit(*node);
-        }
+void ForEachNode(const VXMPlaces& iNodes, Visit iVisit) {
+    for (int position = 1; position <= iNodes.Size(); ++position) {
+        iVisit(*iNodes[position]);
     }
 }
 
@@ -56,23 +45,24 @@ void PutTypeHeading(int iType) {
     VXMBomViewerTrace.TraPutLN("--- ");
 }
 
-void PutLinks(VXMFabMBOMNode& iNode) {
+void PutLinks(const VXMFabMBOMNode& iNode) {
     VXMBomViewerTrace.TraPutX("N ", iNode.GetNumber());
     if (iNode.GetPredecessor()) {
         VXMBomViewerTrace.TraPutX(" P ", iNode.GetPredecessor()->GetNumber());
     }
-    ForEachNode(iNode.GetSuccessorPlaces(),
-                [](const VXMFabMBOMNode& iChild) { VXMBomViewerTrace.TraPutX(" S ", iChild.GetNumber()); });
+    for (int position = 1; position <= iNode.GetNumberOfSuccessors(); ++position) {
+        VXMBomViewerTrace.TraPutX(" S ", iNode.GetSuccessor(position)->GetNumber());
+    }
     VXMBomViewerTrace.TraPutLN(" *");
 }
 
 } // namespace
 
-void VXMBomGenerator::TraceFlowNodes() {
+void VXMBomGenerator::State::TraceFlowNodes() const {
     if (!VXMBomViewerTrace.IsActive()) {
         return;
     }
-    for (const void* entry : _flowNodeList) {
+    for (const void* entry : computation->graph.GetNodes()) {
         if (const auto* const node = static_cast<const VXMFabFlowNode*>(entry)) {
             VXMBomViewerTrace.TraPutX("Number ", node->GetNumber());
             PutNumbered(*node, &VXMFabFlowNode::GetNumberOfPredecessors, &VXMFabFlowNode::GetPredecessor, "P");
@@ -86,20 +76,21 @@ void VXMBomGenerator::TraceFlow() {
     if (!VXMBomViewerTrace.IsActive()) {
         return;
     }
-    ForEachEntry(_flowNodeDico, [](const VXMFabFlowNode& iNode) {
+    const std::vector<VXMFabFlowNode*>& nodes = _state->computation->graph.GetEntered();
+    for (const VXMFabFlowNode* node : nodes) {
         VXMBomViewerTrace.TraPut("Number: ");
-        VXMBomViewerTrace.TraPutX("", iNode.GetNumber());
+        VXMBomViewerTrace.TraPutX("", node->GetNumber());
         VXMBomViewerTrace.TraPut(" Name: ");
-        VXMBomViewerTrace.TraPutLN(iNode.GetName());
-    });
+        VXMBomViewerTrace.TraPutLN(node->GetName());
+    }
     VXMBomViewerTrace.TraPutLN("Flow: Node Number (N), Predecessor (P) und Successors (S)");
-    ForEachEntry(_flowNodeDico, [](const VXMFabFlowNode& iNode) {
+    for (const VXMFabFlowNode* node : nodes) {
         VXMBomViewerTrace.TraPut("N: ");
-        VXMBomViewerTrace.TraPutX("", iNode.GetNumber());
-        PutListed(iNode, &VXMFabFlowNode::GetNumberOfPredecessors, &VXMFabFlowNode::GetPredecessor, " P ");
-        PutListed(iNode, &VXMFabFlowNode::GetNumberOfSuccessors, &VXMFabFlowNode::GetSuccessor, " S ");
+        VXMBomViewerTrace.TraPutX("", node->GetNumber());
+        PutListed(*node, &VXMFabFlowNode::GetNumberOfPredecessors, &VXMFabFlowNode::GetPredecessor, " P ");
+        PutListed(*node, &VXMFabFlowNode::GetNumberOfSuccessors, &VXMFabFlowNode::GetSuccessor, " S ");
         VXMBomViewerTrace.TraPutLN(" *");
-    });
+    }
 }
 
 void VXMBomGenerator::TraceMBOM1() {
@@ -109,7 +100,7 @@ void VXMBomGenerator::TraceMBOM1() {
     VXMBomViewerTrace.TraPutLN("--- TRACE 1 ---");
     for (int type = VXMFabMBOMNode::AT_Top; type <= kLastTypeListed; ++type) {
         PutTypeHeading(type);
-        ForEachNode(_mbomNodes[type].GetPlaces(), [](const VXMFabMBOMNode& iNode) {
+        ForEachNode(_state->computation->tree.GetNodes(AssignmentType(type)), [](const VXMFabMBOMNode& iNode) {
             VXMBomViewerTrace.TraPutX("N ", iNode.GetNumber());
             VXMBomViewerTrace.TraPut(" ");
             VXMBomViewerTrace.TraPutLN(iNode.GetName());
@@ -124,6 +115,6 @@ void VXMBomGenerator::TraceMBOM2() {
     VXMBomViewerTrace.TraPutLN("--- TRACE 2 ---\n");
     for (int type = VXMFabMBOMNode::AT_Top; type <= kLastTypeListed; ++type) {
         PutTypeHeading(type);
-        ForEachNode(_mbomNodes[type].GetPlaces(), PutLinks);
+        ForEachNode(_state->computation->tree.GetNodes(AssignmentType(type)), PutLinks);
     }
 }

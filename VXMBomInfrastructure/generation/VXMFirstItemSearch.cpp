@@ -1,43 +1,52 @@
 #include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
 
-#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORDeepStack.h"
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
 namespace {
 
-constexpr int kNoLoop = -1;
+/// The items of the walk, or those of a search that somebody began outside one.
+class SearchUnderWay {
+public:
+    explicit SearchUnderWay(VXMBomGenerator& iGenerator)
+        : _items(VXMBomComputation::Of(iGenerator).firstItems), _isFirst(!_items) {
+        if (_isFirst) {
+            _items.emplace(VXMFirstItems::Answers::Forgotten);
+        }
+    }
+    ~SearchUnderWay() {
+        if (_isFirst) {
+            _items.reset();
+        }
+    }
+    SearchUnderWay(const SearchUnderWay&) = delete;
+    SearchUnderWay& operator=(const SearchUnderWay&) = delete;
 
-int IdentityOf(const QORBaseUnknown_var& iItem) {
-    return QORModelIdentificator(iItem->GetImpl(0)).GetIntId();
-}
+    VXMFirstItems& operator*() const { return *_items; }
+
+private:
+    std::optional<VXMFirstItems>& _items;
+    bool _isFirst;
+};
 
 } // namespace
 
-VXMFirstItemSearch::Step::Step(VXMFirstItemSearch& ioSearch, const QORBaseUnknown_var& iItem)
-    : _search(ioSearch), _item(iItem), _id(IdentityOf(iItem)), _depth(static_cast<int>(ioSearch._path.size())) {
-    if (_depth == 0) {
-        _search._loopStart = kNoLoop;
-    }
-    _search._path.emplace(_id, _depth);
-}
-
-VXMFirstItemSearch::Step::~Step() {
-    _search._path.erase(_id);
-}
-
-void VXMFirstItemSearch::Step::Conclude(const QORBaseUnknown_var& iFirst) {
-    if (_search._keeps) {
-        // A search that began at an item of the loop itself would have met that item first.
-        const bool isOnLoop = _search._loopStart != kNoLoop && _depth > _search._loopStart;
-        _search._answers.emplace(_id, isOnLoop ? _item : iFirst);
-    }
-}
-
-std::optional<QORBaseUnknown_var> VXMFirstItemSearch::Find(const QORBaseUnknown_var& iItem) {
-    const int id = IdentityOf(iItem);
-    if (const auto met = _path.find(id); met != _path.end()) {
-        _loopStart = met->second;
+QORBaseUnknown_var
+VXMSearchFirstItem(VXMBomGenerator& ioGenerator, const QORBaseUnknown_var& iItem,
+                   std::optional<QORBaseUnknown_var> (*iFirstPredecessor)(const QORBaseUnknown_var& iItem)) {
+    if (!iItem) {
         return iItem;
     }
-    const auto settled = _answers.find(id);
-    return settled == _answers.end() ? std::nullopt : std::optional(settled->second);
+    const SearchUnderWay search(ioGenerator);
+    if (const auto known = (*search).Find(iItem)) {
+        return *known;
+    }
+    VXMFirstItems::Step step(*search, iItem);
+    QORBaseUnknown_var first = iItem;
+    if (const auto predecessor = iFirstPredecessor(iItem)) {
+        QORCallDeep([&] { first = ioGenerator.GetFirstFlowNode(*predecessor); });
+    }
+    step.Conclude(first);
+    return first;
 }

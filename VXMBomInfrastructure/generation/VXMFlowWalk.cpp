@@ -1,8 +1,9 @@
 #include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
 
 #include "QORPlatform/framework/QORDeepStack.h"
-#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/toolkit/QORProgress.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 #include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
@@ -40,41 +41,6 @@ void TraceNodeName(const char* iLabel, const VXMFabFlowNode* iNode) {
 
 } // namespace
 
-/// A visit of a child that is under way, from the registration of its node to the end of its walk.
-///
-/// Meeting the same child again below, with no object having got its first node in between, would go round for ever: a
-/// parent that is linked to its own child does it.
-class VXMFlowWalk::ChildVisit {
-public:
-    ChildVisit(VXMBomGenerator& ioGenerator, const QORBaseUnknown_var& iChild)
-        : _visits(ioGenerator._childVisits), _id(QORModelIdentificator(iChild->GetImpl(0)).GetIntId()) {
-        const auto [place, isNew] = _visits.try_emplace(_id, 0);
-        _outer = isNew ? kNone : place->second;
-        place->second = ioGenerator._flowNodeDico.Size();
-    }
-    ~ChildVisit() {
-        if (_outer == kNone) {
-            _visits.erase(_id);
-        } else {
-            _visits[_id] = _outer;
-        }
-    }
-    ChildVisit(const ChildVisit&) = delete;
-    ChildVisit& operator=(const ChildVisit&) = delete;
-
-    static bool WouldGoRound(const VXMBomGenerator& iGenerator, const QORBaseUnknown_var& iChild) {
-        const auto place = iGenerator._childVisits.find(QORModelIdentificator(iChild->GetImpl(0)).GetIntId());
-        return place != iGenerator._childVisits.end() && place->second == iGenerator._flowNodeDico.Size();
-    }
-
-private:
-    static constexpr int kNone = -1;
-
-    std::unordered_map<int, int>& _visits;
-    int _id;
-    int _outer;
-};
-
 VXMFlowWalk::VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel)
     : _generator(ioGenerator), _previous(iPrevious), _current(iCurrent), _level(iLevel), _last(iPrevious) {}
 
@@ -93,15 +59,19 @@ void VXMFlowWalk::VisitChild(const QORBaseUnknown_var& iChild, Standalone iStand
     if (!iChild || _generator.CheckUse(iChild)) {
         return;
     }
-    QORBaseUnknown_var first =
-        ChildVisit::WouldGoRound(_generator, iChild) ? iChild : _generator.GetFirstFlowNode(iChild);
+    VXMBomComputation& computation = VXMBomComputation::Of(_generator);
+    const auto objects = [&computation] {
+        return computation.graph.GetEntered().size();
+    };
+    const bool wouldGoRound = computation.childVisits.WouldGoRound(iChild.Impl(), objects());
+    QORBaseUnknown_var first = wouldGoRound ? iChild : _generator.GetFirstFlowNode(iChild);
     if (!QORISpecObject_var(first)) {
         return;
     }
     VXMFabFlowNode* node = nullptr;
     MakeNode(first, _level + 1, NullNode::Registered, node);
     first = nullptr;
-    const ChildVisit visit(_generator, iChild);
+    const VXMChildVisits::Visit visit(computation.childVisits, iChild.Impl(), objects());
     WalkOn(_previous, node, _level + 1);
 }
 
@@ -140,6 +110,7 @@ void VXMFlowWalk::EndAtCurrent() {
 
 /// Makes and registers a node; false when there is none and a null node isn't to be registered.
 bool VXMFlowWalk::MakeNode(const QORBaseUnknown_var& iItem, int iLevel, NullNode iNullNode, VXMFabFlowNode*& oNode) {
+    QORWork::Step();
     std::unique_ptr<VXMFabFlowNode> node(_generator.CreateFlowNode(iItem, iLevel));
     if (!node && iNullNode == NullNode::Skipped) {
         return false;

@@ -37,8 +37,6 @@ public:
     VXMFabFlowNode* GetLast() const { return _last; }
 
 private:
-    class ChildVisit;
-
     void VisitChild(const QORBaseUnknown_var& iChild, Standalone iStandalone);
     void VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode);
     bool MakeNode(const QORBaseUnknown_var& iItem, int iLevel, NullNode iNullNode, VXMFabFlowNode*& oNode);

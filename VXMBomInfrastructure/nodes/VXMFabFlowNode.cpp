@@ -1,50 +1,73 @@
 #include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
-#include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/collections/QORRawCollPV.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/index/VXMStations.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
 #include "VXMBomInfrastructure/model/VXMIBIWFastener.h"
 #include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
-#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
+#include "VXMBomInfrastructure/nodes/VXMReadFlowNode.h"
 
-#include <algorithm>
+#include <array>
 #include <memory>
+
+/// The neighbours, which alone change after construction.
+class VXM_HIDDEN VXMFabFlowNode::Links : private QORCounted<Links> {
+public:
+    static constexpr std::string_view kCountName = "VXMFabFlowNode";
+
+    QORRawCollPV predecessors;
+    QORRawCollPV successors;
+
+private:
+    friend class QORCounted<Links>;
+};
 
 namespace {
 
-const VXMFabFlowNode::FastenerTypeNames& FastenerTypeTable() {
-    static const VXMFabFlowNode::FastenerTypeNames names = [] {
-        VXMFabFlowNode::FastenerTypeNames result;
-        std::transform(VXMFastenerTypes.begin(), VXMFastenerTypes.end(), result.begin(),
-                       [](const VXMFastenerType& iType) { return QORUnicodeString(iType.name); });
-        return result;
-    }();
-    return names;
+bool IsShown(const QORUnicodeString& iProcessType, int iFastenersShowMode) {
+    int bit = 1;
+    for (const VXMFastenerType& type : VXMFastenerTypes) {
+        if ((iFastenersShowMode & bit) != 0 && iProcessType.Compare(type.name) != 0) {
+            return true;
+        }
+        bit <<= 1;
+    }
+    return false;
 }
 
 } // namespace
 
 VXMFabFlowNode::VXMFabFlowNode(const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode)
     : _fastenersShowMode(iFastenersShowMode), _assignedFastenersShowMode(iAssignedFastenersShowMode),
-      _fastenerTypeNames(FastenerTypeTable()) {}
+      _links(std::make_unique<Links>()) {}
 
 VXMFabFlowNode::~VXMFabFlowNode() = default;
 
 void VXMFabFlowNode::AddPredecessor(VXMFabFlowNode* iNode) {
-    _predecessors.Append(iNode);
+    _links->predecessors.Append(iNode);
 }
 
 void VXMFabFlowNode::AddSuccessor(VXMFabFlowNode* iNode) {
-    _successors.Append(iNode);
+    _links->successors.Append(iNode);
+}
+
+int VXMFabFlowNode::GetNumberOfPredecessors() const {
+    return _links->predecessors.Size();
+}
+
+int VXMFabFlowNode::GetNumberOfSuccessors() const {
+    return _links->successors.Size();
 }
 
 VXMFabFlowNode* VXMFabFlowNode::GetPredecessor(int iPosition) const {
-    return static_cast<VXMFabFlowNode*>(_predecessors[iPosition]);
+    return static_cast<VXMFabFlowNode*>(_links->predecessors[iPosition]);
 }
 
 VXMFabFlowNode* VXMFabFlowNode::GetSuccessor(int iPosition) const {
-    return static_cast<VXMFabFlowNode*>(_successors[iPosition]);
+    return static_cast<VXMFabFlowNode*>(_links->successors[iPosition]);
 }
 
 QORUnicodeString VXMFabFlowNode::GetIDString() const {
@@ -69,21 +92,11 @@ void VXMFabFlowNode::CheckActivityType() {
 }
 
 unsigned char VXMFabFlowNode::CheckParentIsStation(QORISPPAbstractActivity_var& iActivity) {
-    return VXMStationMemo().IsInStation(iActivity) ? 1 : 0;
-}
-
-void VXMFabFlowNode::AppendAll(QORListValQORBaseUnknown_var* iList, QORListValQORBaseUnknown_var& oTarget) {
-    const std::unique_ptr<QORListValQORBaseUnknown_var> list(iList);
-    if (!list) {
-        return;
-    }
-    for (const QORBaseUnknown_var& entry : *list) {
-        oTarget.Append(entry);
-    }
+    return VXMStations::Climb(iActivity) ? 1 : 0;
 }
 
 void VXMFabFlowNode::CreateFirstAssignedProductsList(QORListValQORBaseUnknown_var* iList) {
-    AppendAll(iList, _fap);
+    VXMTakeOver(iList, _fap);
 }
 
 void VXMFabFlowNode::CreateFastenerList(QORListValQORBaseUnknown_var* iList) {
@@ -102,34 +115,8 @@ void VXMFabFlowNode::CreateFastenerList(QORListValQORBaseUnknown_var* iList) {
         if (fastener->IsAssigned() == 0 && _assignedFastenersShowMode == 1) {
             continue;
         }
-        if (IsShown(processType)) {
+        if (IsShown(processType, _fastenersShowMode)) {
             _fasteners.Append(entry);
         }
     }
-}
-
-bool VXMFabFlowNode::IsShown(const QORUnicodeString& iProcessType) const {
-    int bit = 1;
-    for (const QORUnicodeString& name : _fastenerTypeNames) {
-        if ((_fastenersShowMode & bit) != 0 && iProcessType.Compare(name) != 0) {
-            return true;
-        }
-        bit <<= 1;
-    }
-    return false;
-}
-
-void VXMFabFlowNode::ReadIdentity() {
-    _id = QORModelIdentificator(_activity->GetImpl(0)).GetIntId();
-}
-
-void VXMFabFlowNode::TraceFastenersAreShown() const {
-    VXMBomViewerTrace.TraPutLN("FAB_BOM_NO_FASTENERS is NOT set to TRUE: fasteners are displayed in MBOM");
-}
-
-void VXMFabFlowNode::TraceNode() const {
-    VXMBomViewerTrace.TraPutX("Number: ", _number);
-    VXMBomViewerTrace.TraPutX("ID: ", _id);
-    VXMBomViewerTrace.TraPut("Name ");
-    VXMBomViewerTrace.TraPutLN(_name);
 }

@@ -1,30 +1,22 @@
 #pragma once
 
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
-#include "QORPlatform/collections/QORRawCollPV.h"
-#include "QORPlatform/framework/QORObjectCounts.h"
 #include "QORPlatform/text/QORString.h"
 #include "QORPlatform/text/QORUnicodeString.h"
 #include "VXMBomInfrastructure/VXMExport.h"
 #include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 
-#include <array>
-#include <cstdint>
+#include <memory>
 
 /// Vertex of the flow graph: one step of the flow, with what its model object contributes to the bill.
 ///
 /// The five lists are a snapshot: the constructor reads the model, and nobody asks it again, so a changed model needs a
 /// new graph. After construction only the links change. The generator owns all nodes; neighbours don't
 /// own each other, and handles that a reader takes out of a list stay valid when the node goes.
-class VXM_EXPORT VXMFabFlowNode : private QORCounted<VXMFabFlowNode> {
+class VXM_EXPORT VXMFabFlowNode {
 public:
-    static constexpr std::string_view kCountName = "VXMFabFlowNode";
-
     /// What the model object is. NT_ACTIVITY stands for anything but the other three.
     enum NodeType { NT_ACTIVITY = 0, NT_LOADING = 2, NT_STATION = 3, NT_GROUPING = 4 };
-
-    /// Names of the fastener types that can be shown; entry n belongs to the bit 2^n of the show mode, n from 0.
-    using FastenerTypeNames = std::array<QORUnicodeString, 12>;
 
     /// iFastenersShowMode is the mask of the fastener types to collect, iAssignedFastenersShowMode 1 for assigned
     /// fasteners only. Numbers are -1 and lists empty until the subclass has read the model.
@@ -34,14 +26,14 @@ public:
     VXMFabFlowNode& operator=(const VXMFabFlowNode&) = delete;
 
     /// 1 for the node of a resource, 0 for that of an activity.
-    virtual unsigned char IsAResourceFlowNode() const = 0;
+    virtual unsigned char IsAResourceFlowNode() = 0;
 
     /// Appends a neighbour, at this node only and without any test: whoever links calls both sides.
     void AddPredecessor(VXMFabFlowNode* iNode);
     void AddSuccessor(VXMFabFlowNode* iNode);
 
-    int GetNumberOfPredecessors() const { return _predecessors.Size(); }
-    int GetNumberOfSuccessors() const { return _successors.Size(); }
+    int GetNumberOfPredecessors() const;
+    int GetNumberOfSuccessors() const;
 
     /// The neighbour at a position from 1, in the order in which they were added; null outside 1 to the number.
     VXMFabFlowNode* GetPredecessor(int iPosition) const;
@@ -93,18 +85,8 @@ public:
     void CreateFastenerList(QORListValQORBaseUnknown_var* iList);
 
 protected:
-    /// Takes over iList, which may be null, and appends its entries to oTarget.
-    static void AppendAll(QORListValQORBaseUnknown_var* iList, QORListValQORBaseUnknown_var& oTarget);
+    // What a subclass fills in its constructor. Nothing changes it afterwards.
 
-    /// Reads the identity number of _activity.
-    void ReadIdentity();
-
-    /// Writes the line about fasteners being shown, and the closing lines about the finished node.
-    void TraceFastenersAreShown() const;
-    void TraceNode() const;
-
-    QORRawCollPV _predecessors;
-    QORRawCollPV _successors;
     QORBaseUnknown_var _activity;
     QORUnicodeString _name;
     QORListValQORBaseUnknown_var _fap;
@@ -119,24 +101,8 @@ protected:
     unsigned char _parentIsStation = 0;
     int _fastenersShowMode;
     unsigned char _assignedFastenersShowMode;
-    const FastenerTypeNames& _fastenerTypeNames; // one table serves all nodes
 
 private:
-    friend class QORCounted<VXMFabFlowNode>;
-    friend class VXMFlowEnds;
-    friend class VXMBackwardPath;
-    friend class VXMFruitfulSteps;
-
-    bool IsShown(const QORUnicodeString& iProcessType) const;
-
-    /// What the search for the end of the flow has found out about this node; see VXMFlowEnds.
-    struct FlowEndMemo {
-        VXMFabFlowNode* further = nullptr;
-        VXMFabFlowNode* loopEntry = nullptr;
-        VXMFabFlowNode* beforeOnLoop = nullptr;
-        std::uint64_t search = 0;
-    };
-    FlowEndMemo _flowEnd;
-    bool _isOnBackwardPath = false;
-    int _fruitfulIndex = -1;
+    class Links;
+    std::unique_ptr<Links> _links;
 };

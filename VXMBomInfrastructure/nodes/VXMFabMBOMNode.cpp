@@ -1,15 +1,36 @@
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 #include "QORPlatform/framework/QORModelIdentificator.h"
+#include "QORPlatform/framework/QORObjectCounts.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/index/VXMPlaces.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
-#include "VXMBomInfrastructure/nodes/VXMFabSiblingIndex.h"
+
+/// What a node is. Everything but the links is fixed at construction.
+class VXM_HIDDEN VXMFabMBOMNode::State : private QORCounted<State> {
+public:
+    static constexpr std::string_view kCountName = "VXMFabMBOMNode";
+
+    State(int iLevel, int iNumber, AssignmentType iAssignmentType, unsigned char iRemovable)
+        : level(iLevel), number(iNumber), assignmentType(iAssignmentType), removable(iRemovable) {}
+
+    VXMFabMBOMNode* predecessor = nullptr;
+    VXMPlaces successors;
+    QORUnicodeString name{"not defined"};
+    QORBaseUnknown_var product;
+    int level;
+    int id = -1;
+    int number;
+    AssignmentType assignmentType;
+    unsigned char removable;
+
+private:
+    friend class QORCounted<State>;
+};
 
 namespace {
-
-constexpr int kWorthAnIndex = 16;
 
 void ReadName(const QORBaseUnknown_var& iProduct, QORUnicodeString& oName) {
     if (const VXMIMfgAssembly_var assembly{iProduct}) {
@@ -25,105 +46,98 @@ void ReadName(const QORBaseUnknown_var& iProduct, QORUnicodeString& oName) {
 
 VXMFabMBOMNode::VXMFabMBOMNode(const QORBaseUnknown_var& iProduct, const int iLevel, const int iNumber,
                                AssignmentType iAssignmentType, const unsigned char iRemovable)
-    : _name("not defined"), _level(iLevel), _number(iNumber), _assignmentType(iAssignmentType), _removable(iRemovable) {
+    : _state(std::make_unique<State>(iLevel, iNumber, iAssignmentType, iRemovable)) {
     if (!iProduct) {
-        _name = "TOPNODE";
+        _state->name = "TOPNODE";
         return;
     }
-    _product = iProduct;
-    ReadName(_product, _name);
-    _id = QORModelIdentificator(_product->GetImpl(0)).GetIntId();
-    VXMBomViewerTrace.TraPutX("Number: ", _number);
-    VXMBomViewerTrace.TraPutX("ID: ", _id);
+    _state->product = iProduct;
+    ReadName(_state->product, _state->name);
+    _state->id = QORModelIdentificator(_state->product->GetImpl(0)).GetIntId();
+    VXMBomViewerTrace.TraPutX("Number: ", _state->number);
+    VXMBomViewerTrace.TraPutX("ID: ", _state->id);
     VXMBomViewerTrace.TraPut("Name ");
-    VXMBomViewerTrace.TraPutLN(_name);
+    VXMBomViewerTrace.TraPutLN(_state->name);
 }
 
 VXMFabMBOMNode::~VXMFabMBOMNode() = default;
 
+void VXMFabMBOMNode::SetPredecessor(VXMFabMBOMNode* iNode) {
+    _state->predecessor = iNode;
+}
+
+void VXMFabMBOMNode::RemovePredecessor() {
+    _state->predecessor = nullptr;
+}
+
+VXMFabMBOMNode* VXMFabMBOMNode::GetPredecessor() const {
+    return _state->predecessor;
+}
+
 void VXMFabMBOMNode::AddSuccessor(VXMFabMBOMNode* iNode) {
-    if (!iNode) {
-        return;
-    }
-    const int place = _successors.Append(iNode);
-    if (iNode->_placedIn) {
-        iNode->_isPlaceKnown = false;
-    }
-    iNode->_placedIn = this;
-    iNode->_place = place;
-    if (_index) {
-        _index->TakeLast();
+    if (iNode) {
+        _state->successors.Append(iNode);
     }
 }
 
-VXMFabMBOMNode* VXMFabMBOMNode::GetSuccessor(int iPosition) {
-    CloseGaps();
-    return _successors.At(iPosition - 1);
+int VXMFabMBOMNode::GetNumberOfSuccessors() const {
+    return _state->successors.Size();
+}
+
+VXMFabMBOMNode* VXMFabMBOMNode::GetSuccessor(int iPosition) const {
+    return _state->successors[iPosition];
 }
 
 void VXMFabMBOMNode::RemoveSuccessor(int iPosition) {
-    CloseGaps();
-    if (_successors.At(iPosition - 1)) {
-        LeavePlace(iPosition - 1);
-    }
+    _state->successors.RemovePosition(iPosition);
 }
 
 void VXMFabMBOMNode::RemoveSuccessor(VXMFabMBOMNode* iNode) {
-    const int place = iNode ? FindPlace(iNode) : _successors.End();
-    if (place < _successors.End()) {
-        LeavePlace(place);
-    }
+    _state->successors.RemoveValue(iNode);
 }
 
-int VXMFabMBOMNode::FindPlace(const VXMFabMBOMNode* iChild) const {
-    if (iChild->_isPlaceKnown && iChild->_placedIn == this && _successors.At(iChild->_place) == iChild) {
-        return iChild->_place;
-    }
-    int place = 0;
-    while (place < _successors.End() && _successors.At(place) != iChild) {
-        ++place;
-    }
-    return place;
+QORString VXMFabMBOMNode::GetName() const {
+    return QORString(static_cast<const char*>(_state->name));
 }
 
-void VXMFabMBOMNode::LeavePlace(int iPlace) {
-    VXMFabMBOMNode* const child = _successors.At(iPlace);
-    _successors.Leave(iPlace);
-    if (child->_isPlaceKnown) {
-        child->_placedIn = nullptr;
-    }
+QORUnicodeString VXMFabMBOMNode::GetUName() const {
+    return _state->name;
 }
 
-void VXMFabMBOMNode::CloseGaps() {
-    if (!_successors.HasGaps()) {
-        return;
-    }
-    _index.reset();
-    _successors.Close([this](VXMFabMBOMNode& iChild, int iPlace) {
-        if (iChild._placedIn == this) {
-            iChild._place = iPlace;
-        }
-    });
+int VXMFabMBOMNode::GetNumber() const {
+    return _state->number;
+}
+
+int VXMFabMBOMNode::GetLevel() const {
+    return _state->level;
+}
+
+int VXMFabMBOMNode::GetID() const {
+    return _state->id;
 }
 
 QORUnicodeString VXMFabMBOMNode::GetIDString() const {
     QORUnicodeString text;
-    text.BuildFromNum(_id, "%d");
+    text.BuildFromNum(_state->id, "%d");
     return text;
 }
 
-VXMFabMBOMNode* VXMFabMBOMNode::FindAssignment(int iID, const VXMFabMBOMNode* iExcept) {
-    if (!_index && _successors.End() >= kWorthAnIndex) {
-        _index = std::make_unique<VXMFabSiblingIndex>(_successors);
-    }
-    if (_index) {
-        return _index->FindAssignment(iID, iExcept);
-    }
-    for (int place = 0; place < _successors.End(); ++place) {
-        VXMFabMBOMNode* const node = _successors.At(place);
-        if (node && node != iExcept && node->_id == iID && node->IsAssignment()) {
-            return node;
-        }
-    }
-    return nullptr;
+QORBaseUnknown_var VXMFabMBOMNode::GetProduct() const {
+    return _state->product;
+}
+
+VXMFabMBOMNode::AssignmentType VXMFabMBOMNode::GetAssignmentType() const {
+    return _state->assignmentType;
+}
+
+VXMFabMBOMNode::AssignmentType VXMFabMBOMNode::GetAT() const {
+    return _state->assignmentType;
+}
+
+bool VXMFabMBOMNode::IsAssignment() const {
+    return _state->assignmentType == AT_FirstAssign || _state->assignmentType == AT_Process;
+}
+
+unsigned char VXMFabMBOMNode::IsRemovable() const {
+    return _state->removable;
 }

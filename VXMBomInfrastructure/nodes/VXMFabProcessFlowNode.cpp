@@ -1,9 +1,10 @@
 #include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 
+#include "VXMBomInfrastructure/index/VXMStations.h"
 #include "VXMBomInfrastructure/model/QORISPPFlowMgt.h"
 #include "VXMBomInfrastructure/model/QORISPPItemMgt.h"
 #include "VXMBomInfrastructure/model/QORISPPProductIO.h"
-#include "VXMBomInfrastructure/nodes/VXMStationMemo.h"
+#include "VXMBomInfrastructure/nodes/VXMReadFlowNode.h"
 
 namespace {
 
@@ -17,7 +18,12 @@ constexpr int kRemoved = 4;
 
 VXMFabProcessFlowNode::VXMFabProcessFlowNode(const QORISPPAbstractActivity_var& iActivity, const int iLevel,
                                              const int iNumber, const int iFastenersShowMode,
-                                             const unsigned char iAssignedFastenersShowMode, VXMStationMemo* ioStations)
+                                             const unsigned char iAssignedFastenersShowMode)
+    : VXMFabProcessFlowNode(iActivity, iLevel, iNumber, iFastenersShowMode, iAssignedFastenersShowMode, nullptr) {}
+
+VXMFabProcessFlowNode::VXMFabProcessFlowNode(const QORISPPAbstractActivity_var& iActivity, const int iLevel,
+                                             const int iNumber, const int iFastenersShowMode,
+                                             const unsigned char iAssignedFastenersShowMode, VXMStations* ioStations)
     : VXMFabFlowNode(iFastenersShowMode, iAssignedFastenersShowMode) {
     _level = iLevel;
     if (!iActivity) {
@@ -29,13 +35,13 @@ VXMFabProcessFlowNode::VXMFabProcessFlowNode(const QORISPPAbstractActivity_var& 
         return;
     }
     _name = _abstractActivity->GetName();
-    ReadIdentity();
+    _id = VXMIdentityOf(_activity);
     _number = iNumber;
     CheckActivityType();
     QORISPPAbstractActivity_var parent = _abstractActivity->GetParent();
     _parentIsStation = ioStations ? (ioStations->IsInStation(parent) ? 1 : 0) : CheckParentIsStation(parent);
     AssignProductsAndFasteners();
-    TraceNode();
+    VXMTraceNode(*this);
 }
 
 VXMFabProcessFlowNode::~VXMFabProcessFlowNode() = default;
@@ -47,7 +53,7 @@ void VXMFabProcessFlowNode::AssignProductsAndFasteners() {
         CreateAssignedProductsList(items->GetItems(kind, kAssigned));
         CreateRemovedProductsList(items->GetItems(kind, kRemoved));
         if (_fastenersShowMode > 0) {
-            TraceFastenersAreShown();
+            VXMTraceFastenersAreShown();
             CreateFastenerList(items->GetItems(kind, kAllItems));
         }
     }
@@ -55,11 +61,11 @@ void VXMFabProcessFlowNode::AssignProductsAndFasteners() {
 }
 
 void VXMFabProcessFlowNode::CreateAssignedProductsList(QORListValQORBaseUnknown_var* iList) {
-    AppendAll(iList, _pp);
+    VXMTakeOver(iList, _pp);
 }
 
 void VXMFabProcessFlowNode::CreateRemovedProductsList(QORListValQORBaseUnknown_var* iList) {
-    AppendAll(iList, _rp);
+    VXMTakeOver(iList, _rp);
 }
 
 void VXMFabProcessFlowNode::CreateOutputAssignedProductsList(QORBaseUnknown_var iActivity) {
@@ -77,4 +83,8 @@ void VXMFabProcessFlowNode::CreateOutputAssignedProductsList(QORBaseUnknown_var 
             _cp.Append(std::move(product));
         }
     }
+}
+
+unsigned char VXMFabProcessFlowNode::IsAResourceFlowNode() {
+    return 0;
 }

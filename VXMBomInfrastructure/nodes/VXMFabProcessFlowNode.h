@@ -2,19 +2,17 @@
 
 #include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
-class VXMStationMemo;
+class VXMStations;
 
 /// Flow node of an activity: its items by relation, its outputs, and whether it stands in a station.
 class VXM_EXPORT VXMFabProcessFlowNode : public VXMFabFlowNode {
 public:
     /// Reads the activity. With a null handle, or an object that is no activity, everything but the level stays empty.
-    /// ioStations, when given, is asked for and remembers which activities stand in stations.
     VXMFabProcessFlowNode(const QORISPPAbstractActivity_var& iActivity, const int iLevel, const int iNumber,
-                          const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode,
-                          VXMStationMemo* ioStations = nullptr);
+                          const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode);
     ~VXMFabProcessFlowNode() override;
 
-    unsigned char IsAResourceFlowNode() const override { return 0; }
+    unsigned char IsAResourceFlowNode() override;
 
     /// Fills the five lists; the constructor calls it.
     void AssignProductsAndFasteners();
@@ -27,5 +25,12 @@ public:
     void CreateOutputAssignedProductsList(QORBaseUnknown_var iActivity);
 
 private:
+    friend class VXMWalkedActivityFlowNode;
+
+    /// The same within a walk, which remembers the activities that stand in stations.
+    VXMFabProcessFlowNode(const QORISPPAbstractActivity_var& iActivity, const int iLevel, const int iNumber,
+                          const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode,
+                          VXMStations* ioStations);
+
     QORISPPAbstractActivity_var _abstractActivity;
 };

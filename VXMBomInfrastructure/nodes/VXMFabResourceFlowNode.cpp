@@ -3,6 +3,7 @@
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/VXMIResourceItemMgmt.h"
+#include "VXMBomInfrastructure/nodes/VXMReadFlowNode.h"
 
 #include <memory>
 
@@ -18,11 +19,11 @@ VXMFabResourceFlowNode::VXMFabResourceFlowNode(const VXMIResourceBehaviorManager
     if (const QORIProduct_var product{_activity}) {
         _name = product->GetProductName();
     }
-    ReadIdentity();
+    _id = VXMIdentityOf(_activity);
     _number = iNumber;
     CheckActivityType();
     AssignProductsAndFasteners();
-    TraceNode();
+    VXMTraceNode(*this);
 }
 
 VXMFabResourceFlowNode::~VXMFabResourceFlowNode() = default;
@@ -40,7 +41,7 @@ void VXMFabResourceFlowNode::AssignProductsAndFasteners() {
     if (const VXMIResourceItemMgmt_var items{behavior}) {
         CreateFirstAssignedProductsList(items->GetAssignedItems());
         if (_fastenersShowMode > 0) {
-            TraceFastenersAreShown();
+            VXMTraceFastenersAreShown();
             CreateFastenerList(items->GetAssignedItems());
         }
     }
@@ -61,4 +62,8 @@ void VXMFabResourceFlowNode::CreateOutputAssignedProductsList(QORBaseUnknown_var
             _cp.Append(entry);
         }
     }
+}
+
+unsigned char VXMFabResourceFlowNode::IsAResourceFlowNode() {
+    return 1;
 }

@@ -12,7 +12,7 @@ public:
                            const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode);
     ~VXMFabResourceFlowNode() override;
 
-    unsigned char IsAResourceFlowNode() const override { return 1; }
+    unsigned char IsAResourceFlowNode() override;
 
     /// Fills the lists; the constructor calls it.
     void AssignProductsAndFasteners();

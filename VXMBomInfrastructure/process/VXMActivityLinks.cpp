@@ -29,7 +29,9 @@ std::optional<QORBaseUnknown_var> FirstPredecessor(const QORISPPFlowMgt_var& iFl
 }
 
 bool HasLinks(const QORISPPFlowMgt_var& iFlow) {
-    return iFlow->GetPredecessors(LinkType()).Size() != 0 || iFlow->GetSuccessors(LinkType()).Size() != 0;
+    // Each list is gone before the next one is asked for.
+    const bool hasPredecessors = iFlow->GetPredecessors(LinkType()).Size() != 0;
+    return hasPredecessors || iFlow->GetSuccessors(LinkType()).Size() != 0;
 }
 
 } // namespace VXMActivityLinks

@@ -4,11 +4,12 @@
 
 #include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 
+#include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
 #include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
 #include "VXMBomInfrastructure/model/QORISPPActivity.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
-#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 #include "VXMBomInfrastructure/process/VXMActivityLinks.h"
+#include "VXMBomInfrastructure/process/VXMWalkedActivityFlowNode.h"
 
 VXMProcessBomGenerator::VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot) : VXMBomGenerator(iRoot) {}
 
@@ -38,8 +39,8 @@ VXMFabFlowNode* VXMProcessBomGenerator::CheckFlow(VXMFabFlowNode* iPrevious, VXM
 }
 
 QORBaseUnknown_var VXMProcessBomGenerator::GetFirstFlowNode(const QORBaseUnknown_var& iItem) {
-    return SearchFirstItem(iItem, [&iItem]() -> std::optional<QORBaseUnknown_var> {
-        const QORISPPFlowMgt_var flow(iItem);
+    return VXMSearchFirstItem(*this, iItem, [](const QORBaseUnknown_var& iFrom) -> std::optional<QORBaseUnknown_var> {
+        const QORISPPFlowMgt_var flow(iFrom);
         return flow ? VXMActivityLinks::FirstPredecessor(flow) : std::nullopt;
     });
 }
@@ -53,6 +54,5 @@ unsigned char VXMProcessBomGenerator::IsStandaloneLogicalNode(const QORBaseUnkno
 }
 
 VXMFabFlowNode* VXMProcessBomGenerator::CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) {
-    return new VXMFabProcessFlowNode(QORISPPAbstractActivity_var(iItem), iLevel, GetCounter(), GetFastenersShowMode(),
-                                     GetAssignedFastenersShowMode(), Stations());
+    return new VXMWalkedActivityFlowNode(*this, QORISPPAbstractActivity_var(iItem), iLevel);
 }

@@ -12,14 +12,15 @@
 
 #include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
+#include "VXMBomInfrastructure/generation/VXMFirstItemSearch.h"
 #include "VXMBomInfrastructure/generation/VXMFlowWalk.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
 #include "VXMBomInfrastructure/model/VXMIResourceBehaviorManager.h"
 #include "VXMBomInfrastructure/model/VXMIResourceFlowMgmt.h"
-#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
 #include "VXMBomInfrastructure/nodes/VXMFabResourceFlowNode.h"
 #include "VXMBomInfrastructure/process/VXMActivityLinks.h"
+#include "VXMBomInfrastructure/process/VXMWalkedActivityFlowNode.h"
 
 #include <memory>
 
@@ -36,7 +37,9 @@ std::optional<QORBaseUnknown_var> FirstOf(const List& iList) {
 }
 
 bool HasLinks(const VXMIResourceFlowMgmt_var& iFlow) {
-    return !IsEmpty(List(iFlow->GetPredecessors())) || !IsEmpty(List(iFlow->GetSuccessors()));
+    // Each list is gone before the next one is asked for.
+    const bool hasPredecessors = !IsEmpty(List(iFlow->GetPredecessors()));
+    return hasPredecessors || !IsEmpty(List(iFlow->GetSuccessors()));
 }
 
 } // namespace
@@ -119,11 +122,11 @@ void VXMResourceBomGenerator::VisitResourceSuccessors(VXMFlowWalk& ioWalk, const
 }
 
 QORBaseUnknown_var VXMResourceBomGenerator::GetFirstFlowNode(const QORBaseUnknown_var& iItem) {
-    return SearchFirstItem(iItem, [&iItem]() -> std::optional<QORBaseUnknown_var> {
-        if (const VXMIResourceFlowMgmt_var resourceFlow{iItem}) {
+    return VXMSearchFirstItem(*this, iItem, [](const QORBaseUnknown_var& iFrom) -> std::optional<QORBaseUnknown_var> {
+        if (const VXMIResourceFlowMgmt_var resourceFlow{iFrom}) {
             return FirstOf(List(resourceFlow->GetPredecessors()));
         }
-        const QORISPPFlowMgt_var controlFlow(iItem);
+        const QORISPPFlowMgt_var controlFlow(iFrom);
         return controlFlow ? VXMActivityLinks::FirstPredecessor(controlFlow) : std::nullopt;
     });
 }
@@ -142,8 +145,7 @@ VXMFabFlowNode* VXMResourceBomGenerator::CreateFlowNode(QORBaseUnknown_var iItem
                                           GetAssignedFastenersShowMode());
     }
     if (const QORISPPAbstractActivity_var activity{iItem}) {
-        return new VXMFabProcessFlowNode(activity, iLevel, GetCounter(), GetFastenersShowMode(),
-                                         GetAssignedFastenersShowMode(), Stations());
+        return new VXMWalkedActivityFlowNode(*this, activity, iLevel);
     }
     return nullptr;
 }

@@ -245,6 +245,33 @@ TEST(GetBom, AModelThatRaisesLeavesTheLastSuccessInPlace) {
     }
 }
 
+/// A model that publishes while it is read, so that somebody asks the generator in the middle of its computation.
+TEST(GetBom, AskedByTheModelThatItReadsGivesTheLastBill) {
+    World world;
+    VXMProcessBomGenerator generator(handle(drawPlan(world, "S1: +A(P) | S2: -X +Q")));
+    int asked = 0;
+    world.calls.during = [&] {
+        const auto during = std::exchange(world.calls.during, nullptr);
+        EXPECT_THROW(generator.MainCheckFlow(), std::logic_error);
+        EXPECT_THROW(generator.FreeFN(), std::logic_error);
+        EXPECT_THROW(generator.FreeMN(), std::logic_error);
+        if (asked++ == 0) {
+            EXPECT_THROW(generator.GetBom(1), std::logic_error);
+        }
+        world.calls.during = during;
+    };
+    EXPECT_EQ(bomText(generator.GetBom(0)), "Q A(P)");
+    EXPECT_EQ(asked, world.calls.count);
+    const DOM_Document last = generator.GetBom(0);
+    world["S2"].items[2]->clear();
+    world.calls.during = [&] {
+        EXPECT_EQ(generator.GetBom(1), last);
+        EXPECT_EQ(listText(generator.GetPreviewObjects()), "Q P A");
+    };
+    EXPECT_EQ(bomText(generator.GetBom(1)), "A(P)");
+    EXPECT_EQ(bomText(last), "Q A(P)");
+}
+
 TEST(HandleOrder, GoesByTheImplementations) {
     World world;
     Thing& first = world.thing("A", kItem | kProduct);

@@ -142,7 +142,7 @@ TEST(FlowNode, TakesTheListsOfABehaviour) {
         World world;
         VXMIResourceBehaviorManager_var manager(handle(drawResource(world, row.drawing)));
         apply(row.change, world);
-        const VXMFabResourceFlowNode node(manager, 2, 7, row.mode, row.assignedOnly);
+        VXMFabResourceFlowNode node(manager, 2, 7, row.mode, row.assignedOnly);
         EXPECT_EQ(listsOf(node), row.lists) << row.name;
         EXPECT_EQ(node.GetName(), "C");
         EXPECT_EQ(node.IsAResourceFlowNode(), 1);

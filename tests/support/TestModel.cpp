@@ -30,7 +30,11 @@ void Calls::made(const char* operation) {
     if (keepNames) {
         names.emplace_back(operation);
     }
-    if (++count == raiseAt) {
+    ++count;
+    if (during) {
+        during();
+    }
+    if (count == raiseAt) {
         throw std::runtime_error(operation);
     }
 }

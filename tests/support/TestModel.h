@@ -17,6 +17,7 @@
 #include "VXMBomInfrastructure/model/VXMIResourceItemMgmt.h"
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -55,8 +56,8 @@ using Things = std::vector<Thing*>;
 /// A list that may be missing: none is answered with null.
 using MaybeThings = std::optional<Things>;
 
-/// What the calls of a world's operations go through: counts them, keeps their names when asked to, and raises
-/// std::runtime_error at the call whose turn it is.
+/// What the calls of a world's operations go through: counts them, keeps their names when asked to, runs what is to
+/// happen during each, and raises std::runtime_error at the call whose turn it is.
 class Calls {
 public:
     void made(const char* operation);
@@ -65,6 +66,7 @@ public:
     int raiseAt = 0; // 0: never
     bool keepNames = false;
     std::vector<std::string> names;
+    std::function<void()> during;
 };
 
 class Thing final : public QORBaseUnknown {

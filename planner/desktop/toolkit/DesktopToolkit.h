@@ -6,6 +6,7 @@
 
 namespace planner::desktop {
 
+class Choice;
 class FramePane;
 
 /// The platform's toolkit on Qt: a pane for each window, with the tree of its box and the widget of its viewer inside.
@@ -15,7 +16,7 @@ public:
     /// Puts the pane of a window that is complete where it will be seen, and becomes its parent.
     using Place = std::function<void(FramePane& pane)>;
 
-    explicit DesktopToolkit(Place place);
+    DesktopToolkit(Choice& choice, Place place);
     ~DesktopToolkit() override;
 
     std::unique_ptr<QORFrmWindowPeer> MakePeer(QORFrmWindow& window) override;
@@ -23,6 +24,7 @@ public:
     std::unique_ptr<QORNavigBoxPeer> MakePeer(QORNavigBox& box) override;
 
 private:
+    Choice& choice_;
     Place place_;
 };
 

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "QORPlatform/dom/DOM_Document.h"
+#include "VXMBomInfrastructure/generation/VXMBackwardWalk.h"
+#include "VXMBomInfrastructure/generation/VXMBomTree.h"
+#include "VXMBomInfrastructure/generation/VXMChildVisits.h"
+#include "VXMBomInfrastructure/generation/VXMFlowGraph.h"
+#include "VXMBomInfrastructure/index/VXMFirstItems.h"
+#include "VXMBomInfrastructure/index/VXMFlowEnds.h"
+#include "VXMBomInfrastructure/index/VXMRepeatMarks.h"
+#include "VXMBomInfrastructure/index/VXMSiblingChains.h"
+#include "VXMBomInfrastructure/index/VXMStations.h"
+
+#include <optional>
+
+class VXMBomGenerator;
+
+/// What a bill shows: the document, its top element, and the object behind every other element.
+struct VXMBomResult {
+    DOM_Document document;
+    DOM_Element rootElement;
+    QORListValQORBaseUnknown_var previewObjects;
+};
+
+/// All that one computation of a bill makes and remembers. It goes as a whole when the next computation begins, or when
+/// the model raises on the way.
+struct VXMBomComputation {
+    VXMBomTree tree;
+    VXMFlowGraph graph; // ends before the tree
+    VXMBomResult result;
+
+    // While the model is walked.
+    VXMChildVisits childVisits;
+    std::optional<VXMFirstItems> firstItems;
+    std::optional<VXMStations> stations;
+    std::optional<VXMFlowEnds> flowEnds;
+
+    // While the tree is built, and while a pass goes over it.
+    std::optional<VXMBackwardWalk> backwardWalk;
+    std::optional<VXMSiblingChains> siblings;
+    std::optional<VXMRepeatMarks> repeats;
+
+    /// The present computation of a generator, for the walks and flow nodes that belong to it.
+    static VXMBomComputation& Of(VXMBomGenerator& iGenerator);
+};

@@ -1,0 +1,121 @@
+// What a product is made of, below its node: an assembly's contents, or a plain product's child occurrences.
+
+#include "QORPlatform/framework/QORDeepStack.h"
+#include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMStructure.h"
+#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
+
+#include <utility>
+
+VXMFabMBOMNode& VXMAttachNode(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioParent,
+                              const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
+                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable) {
+    QORWork::Step();
+    auto made = std::make_unique<VXMFabMBOMNode>(iProduct, iLevel, iNumber, iType, iRemovable);
+    ioGenerator.AddMBOMNodeToList(made.get());
+    VXMFabMBOMNode& node = *made.release();
+    ioParent.AddSuccessor(&node);
+    node.SetPredecessor(&ioParent);
+    return node;
+}
+
+namespace {
+
+/// The contents of an assembly, which belong to the caller even when the model fills the list and raises then.
+std::unique_ptr<QORListValQORBaseUnknown_var> ContentsOf(const VXMIMfgAssembly_var& iAssembly) {
+    struct Filled {
+        QORListValQORBaseUnknown_var* list = nullptr;
+        ~Filled() { delete list; }
+    } filled;
+    iAssembly->GetAssignedProducts(filled.list);
+    return std::unique_ptr<QORListValQORBaseUnknown_var>(std::exchange(filled.list, nullptr));
+}
+
+} // namespace
+
+/// A plain product that is being expanded, for as long as this lives.
+class VXMStructure::OnPath {
+public:
+    OnPath(VXMStructure& ioStructure, const QORBaseUnknown* iProduct)
+        : _structure(ioStructure), _product(iProduct),
+          _outer(std::exchange(ioStructure._products.try_emplace(iProduct, kNone).first->second,
+                               ioStructure._assemblies)) {}
+    ~OnPath() {
+        if (_outer == kNone) {
+            _structure._products.erase(_product);
+        } else {
+            _structure._products[_product] = _outer;
+        }
+    }
+    OnPath(const OnPath&) = delete;
+    OnPath& operator=(const OnPath&) = delete;
+
+private:
+    static constexpr int kNone = -1;
+
+    VXMStructure& _structure;
+    const QORBaseUnknown* _product;
+    int _outer;
+};
+
+int VXMStructure::Expand(VXMFabMBOMNode& ioNode, int iLevel, int iNumber) {
+    const QORBaseUnknown_var object = ioNode.GetProduct();
+    if (const VXMIMfgAssembly_var assembly{object}) {
+        if (_expanded.contains(object.Impl())) {
+            return iNumber;
+        }
+        const List contents = ContentsOf(assembly);
+        if (!contents || contents->Size() == 0) {
+            return iNumber;
+        }
+        _expanded.insert(object.Impl());
+        ++_assemblies;
+        const int number = ExpandList(ioNode, contents, iLevel, iNumber);
+        --_assemblies;
+        _expanded.erase(object.Impl());
+        return number;
+    }
+    if (_kind == Kind::AssembliesOnly) {
+        return iNumber;
+    }
+    const QORIProduct_var product(object);
+    const auto above = _products.find(object.Impl());
+    if (!product || (above != _products.end() && above->second == _assemblies)) {
+        return iNumber;
+    }
+    const List children(product->GetChildren("QORIProduct"));
+    if (!children || children->Size() == 0) {
+        return iNumber;
+    }
+    const OnPath onPath(*this, object.Impl());
+    return ExpandList(ioNode, children, iLevel, iNumber);
+}
+
+int VXMStructure::ExpandList(VXMFabMBOMNode& ioNode, const List& iList, int iLevel, int iNumber) {
+    const unsigned char removable = _kind == Kind::AssembliesOnly ? 1 : 0;
+    const int count = iList->Size();
+    for (int position = 1; position <= count; ++position) {
+        VXMFabMBOMNode& child = VXMAttachNode(_generator, ioNode, (*iList)[position], iLevel + 1, ++iNumber,
+                                              ioNode.GetAssignmentType(), removable);
+        QORCallDeep([&] { iNumber = Expand(child, iLevel + 1, iNumber); });
+    }
+    return iNumber;
+}
+
+int VXMBomGenerator::CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber,
+                                           QORListValQORBaseUnknown_var iPath) {
+    if (!iNode) {
+        return iNumber;
+    }
+    VXMStructure structure(*this, VXMStructure::Kind::AssembliesAndProducts);
+    for (const QORBaseUnknown_var& object : iPath) {
+        structure.WasExpanded(object);
+    }
+    return structure.Expand(*iNode, iLevel, iNumber);
+}
+
+int VXMBomGenerator::CreateOldMAChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber) {
+    return iNode ? VXMStructure(*this, VXMStructure::Kind::AssembliesOnly).Expand(*iNode, iLevel, iNumber) : iNumber;
+}

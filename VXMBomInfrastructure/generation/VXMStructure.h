@@ -1,0 +1,47 @@
+#pragma once
+
+#include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
+
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+class VXMBomGenerator;
+
+/// Makes a node, registers it and puts it at the end of a parent's children.
+VXMFabMBOMNode& VXMAttachNode(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioParent,
+                              const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
+                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable);
+
+/// Makes the MBOM nodes of what one product is made of, depth first.
+///
+/// An assembly lists what it holds, and isn't expanded a second time on one way down. A plain product lists its child
+/// occurrences; it may come again below an assembly that came in between (which ends the matter when it comes round
+/// itself), but not straight below its own kind, or its structure would have no end.
+class VXMStructure {
+public:
+    /// What is expanded, and whether the nodes may go as repeats: the present build takes both, and keeps their nodes;
+    /// the legacy one takes assemblies alone, and their nodes may go.
+    enum class Kind { AssembliesAndProducts, AssembliesOnly };
+
+    VXMStructure(VXMBomGenerator& ioGenerator, Kind iKind) : _generator(ioGenerator), _kind(iKind) {}
+
+    /// Says that an object was expanded further up, before this began.
+    void WasExpanded(const QORBaseUnknown_var& iObject) { _expanded.insert(iObject.Impl()); }
+
+    /// Makes the nodes below ioNode and gives the number to go on with.
+    int Expand(VXMFabMBOMNode& ioNode, int iLevel, int iNumber);
+
+private:
+    using List = std::unique_ptr<QORListValQORBaseUnknown_var>;
+    class OnPath;
+
+    int ExpandList(VXMFabMBOMNode& ioNode, const List& iList, int iLevel, int iNumber);
+
+    VXMBomGenerator& _generator;
+    Kind _kind;
+    std::unordered_set<const QORBaseUnknown*> _expanded;      // assemblies on the path, and what the caller named
+    std::unordered_map<const QORBaseUnknown*, int> _products; // plain products on the path: assemblies above the latest
+    int _assemblies = 0;                                      // on the path, of this expansion
+};

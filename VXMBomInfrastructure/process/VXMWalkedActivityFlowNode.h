@@ -1,0 +1,19 @@
+#pragma once
+
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
+#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/nodes/VXMFabProcessFlowNode.h"
+
+/// Flow node of an activity within a walk, which remembers the activities that stand in stations.
+class VXMWalkedActivityFlowNode final : public VXMFabProcessFlowNode {
+public:
+    VXMWalkedActivityFlowNode(VXMBomGenerator& iGenerator, const QORISPPAbstractActivity_var& iActivity, int iLevel)
+        : VXMFabProcessFlowNode(iActivity, iLevel, iGenerator.GetCounter(), iGenerator.GetFastenersShowMode(),
+                                iGenerator.GetAssignedFastenersShowMode(), StationsOf(iGenerator)) {}
+
+private:
+    static VXMStations* StationsOf(VXMBomGenerator& iGenerator) {
+        std::optional<VXMStations>& stations = VXMBomComputation::Of(iGenerator).stations;
+        return stations ? &*stations : nullptr;
+    }
+};
