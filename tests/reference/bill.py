@@ -81,7 +81,7 @@ class Bill:
     # Building
 
     def create_mbom(self, flow_node, parent, number, path):
-        """Makes the nodes of a step, then those of the steps before it: by the older rules under its first output."""
+        """Makes the nodes of a step, then those of the steps before it: by the legacy algorithm under its first output."""
         self.trace.spend()
         self.trace.line(f"--> VXMBomGenerator::Create{'Old' if self.settings.legacy else ''}MBOM ")
         current_parent = parent

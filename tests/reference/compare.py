@@ -1,4 +1,5 @@
-"""Holds the planner against the reference on random plans: the bill, and the trace byte for byte.
+"""Holds the planner against the reference on random plans: the bill and the trace byte for byte, and the bill of a run
+without a trace, which goes shorter ways.
 
     python3 compare.py --planner PATH --plans N --seed S [--legacy] [--resources]
 
@@ -68,20 +69,24 @@ class Planner:
         with open(self.plan_file, "w", encoding="utf-8") as file:
             file.write(text)
 
-    def run(self, case):
-        command = [self.path, "bom", self.plan_file, *case.arguments(),
-                   "--format", "json", "--trace", self.trace_file]
+    def run(self, case, is_traced):
+        command = [self.path, "bom", self.plan_file, *case.arguments(), "--format", "json"]
+        if is_traced:
+            command += ["--trace", self.trace_file]
         try:
             done = subprocess.run(command, capture_output=True, env=self.environment, close_fds=False,
                                   timeout=RUN_SECONDS, check=True)
-            with open(self.trace_file, encoding="utf-8", newline="") as file:
-                outcome = Outcome(json.loads(done.stdout), file.read())
-            os.remove(self.trace_file)
-            return outcome
+            return Outcome(json.loads(done.stdout), self.take_trace() if is_traced else "")
         except subprocess.CalledProcessError as error:
             return Outcome(failure=f"{error}: {error.stderr.decode(errors='replace')}")
         except (subprocess.TimeoutExpired, OSError, ValueError) as error:
             return Outcome(failure=str(error))
+
+    def take_trace(self):
+        with open(self.trace_file, encoding="utf-8", newline="") as file:
+            trace = file.read()
+        os.remove(self.trace_file)
+        return trace
 
 
 def make_cases(rng, plan, resources, legacy):
@@ -148,9 +153,10 @@ def compare_all(options):
         plans = usable_plans(options.seed, options.resources, options.legacy)
         for index, text, runs in itertools.islice(plans, options.plans):
             planner.write(text)
-            for case, expected in runs:
+            for (case, traced), is_traced in itertools.product(runs, (True, False)):
                 runs_made += 1
-                actual = planner.run(case)
+                expected = traced if is_traced else Outcome(traced.bom)
+                actual = planner.run(case, is_traced)
                 if actual != expected:
                     differences += 1
                     if differences <= DIFFERENCES_SHOWN:
