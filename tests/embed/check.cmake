@@ -58,7 +58,7 @@ elseif(STEP STREQUAL pkgconfig)
   execute_process(COMMAND pkg-config --cflags --libs VXMBomInfrastructure COMMAND_ERROR_IS_FATAL ANY
                   OUTPUT_STRIP_TRAILING_WHITESPACE OUTPUT_VARIABLE options)
   separate_arguments(options UNIX_COMMAND "${FLAGS} ${options}")
-  run(${COMPILER} -std=c++20 ${SHARE}/examples/embed/bill.cpp -o ${SCRATCH}/bill ${options})
+  run(${COMPILER} ${SHARE}/examples/embed/bill.cpp -o ${SCRATCH}/bill ${options})
   expect_output(${SCRATCH}/bill "${bill}")
 else()
   message(FATAL_ERROR "no such step: ${STEP}")

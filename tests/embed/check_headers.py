@@ -11,8 +11,7 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Werror"]
-NEEDS_CXX20 = ("planner", "VXMBomInfrastructure/generation/VXMBom", "VXMBomInfrastructure/nodes", "VXMBomInfrastructure/process",
-               "VXMBomInfrastructure/resource")
+NEEDS_CXX20 = ("planner",)
 
 
 def fault_of(folder, header, compiler):
