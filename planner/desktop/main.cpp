@@ -3,6 +3,8 @@
 #include "planner/desktop/app/Display.h"
 #include "planner/desktop/app/MainWindow.h"
 #include "planner/desktop/app/Options.h"
+#include "planner/desktop/icons/Icons.h"
+#include "planner/desktop/settings/Preferences.h"
 
 #include "QORPlatform/dialog/QORDialogLoop.h"
 
@@ -51,6 +53,12 @@ int main(int argc, char** argv) {
     }
     try {
         QApplication app(argc, argv);
+        QApplication::setApplicationName("planner-desktop");
+        QApplication::setApplicationVersion(PLANNER_VERSION);
+        QApplication::setDesktopFileName("planner-desktop");
+        QApplication::setStyle("Fusion");
+        QApplication::setWindowIcon(planner::desktop::icon("planner-desktop"));
+        planner::desktop::applyAppearance(planner::desktop::readAppearance());
         QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                          [] { QORDialogLoop::Get().Run(); });
         return run(options);

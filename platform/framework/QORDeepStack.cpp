@@ -24,8 +24,8 @@
 namespace {
 
 constexpr std::size_t kSegmentSize = std::size_t{1} << 20;
-// What QORDeepStack promises to what is called, and as much again as our own functions need around it.
-constexpr std::uintptr_t kReserve = QORDeepStack::kReserve + (std::uintptr_t{64} << 10);
+// What QORDeepStack promises to what is called, and what our own functions need around it.
+constexpr std::uintptr_t kRoomWanted = QORDeepStack::kReserve + (std::uintptr_t{64} << 10);
 constexpr std::size_t kKeptSegments = 4;
 
 /// Where this thread's stack can't be learned the present address, so that the next call goes on a segment.
@@ -147,7 +147,7 @@ __attribute__((noinline)) void SwitchTo([[maybe_unused]] const Segment& iSegment
 } // namespace
 
 bool QORDeepStack::HasRoom() {
-    return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) > LowEnd() + kReserve;
+    return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) > LowEnd() + kRoomWanted;
 }
 
 void QORDeepStack::CallOnSegment(void (*iCall)(void*), void* iContext) {

@@ -43,6 +43,9 @@ public:
                                         const char* iName, int iAllowDuplicates, int iDepth, int iWidth, int iHeight,
                                         int iExtensionMode);
 
+    /// The generator of the window's BOM, null on a root that there is none for. It stays the window's.
+    VXMBomGenerator* GetGenerator() const { return _generator.get(); }
+
     // Title.
 
     /// The window's name as far as it fits its width, at 10 pixels a character: whole, or its two ends around "...".

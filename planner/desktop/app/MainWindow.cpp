@@ -1,26 +1,84 @@
 #include "planner/desktop/app/MainWindow.h"
 
+#include "planner/desktop/app/FileCommands.h"
+#include "planner/desktop/app/StatusLine.h"
 #include "planner/desktop/bom/BomArea.h"
 #include "planner/desktop/bom/BomDesk.h"
+#include "planner/desktop/bom/BomSide.h"
+#include "planner/desktop/bom/StartPage.h"
 #include "planner/desktop/flow/FlowPane.h"
 #include "planner/desktop/plan/Choice.h"
+#include "planner/desktop/plan/ItemPane.h"
+#include "planner/desktop/plan/PlanCommands.h"
+#include "planner/desktop/plan/PlanPane.h"
 #include "planner/desktop/plan/PlanSession.h"
+#include "planner/desktop/properties/PropertyPane.h"
+#include "planner/desktop/settings/FastenerDialog.h"
+#include "planner/desktop/toolkit/Progress.h"
+#include "planner/desktop/widgets/InfoBar.h"
 
+#include <QAction>
+#include <QCloseEvent>
 #include <QDockWidget>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMimeData>
+#include <QSettings>
+#include <QVBoxLayout>
 
 namespace planner::desktop {
 
 MainWindow::MainWindow()
-    : session_(new PlanSession(this)), choice_(new Choice(*session_)), area_(new BomArea(this)),
-      desk_(new BomDesk(*session_, *choice_, *area_)) {
-    setWindowTitle("Planner");
-    setCentralWidget(area_);
-    addPane(Qt::BottomDockWidgetArea, "Flow", "flow", new FlowPane(*session_, *choice_));
-    resize(1280, 800);
+    : session_(new PlanSession(this)), choice_(new Choice(*session_)), bar_(new InfoBar(this)),
+      start_(new StartPage(this)), area_(new BomArea(start_, this)), desk_(new BomDesk(*session_, *choice_, *area_)),
+      progress_(new Progress(this)), commands_(new PlanCommands(*session_, *choice_, this)),
+      files_(new FileCommands(*session_, *bar_, this)) {
+    applyFasteners(readFasteners());
+    setAcceptDrops(true);
+    setStatusBar(new StatusLine(*session_, this));
+    fillCentre();
+    makePanes();
+    makeMenus();
+    connect(progress_, &Progress::worked, static_cast<StatusLine*>(statusBar()), &StatusLine::computed);
+    connect(commands_, &PlanCommands::added, this, [this](ModelObject* object) { editAdded(*object); });
+    connect(desk_, &BomDesk::said, bar_, [this](const QString& text) { bar_->say(text); });
+    connect(session_, &PlanSession::refused, bar_, [this](const QString& reason) { bar_->say(reason); });
+    connect(session_, &PlanSession::fileStateChanged, this, &MainWindow::followFile);
+    connect(session_, &PlanSession::fileStateChanged, this, &MainWindow::followEdits);
+    connect(session_, &PlanSession::replaced, bar_, &QWidget::hide);
+    connect(choice_, &Choice::changed, this, &MainWindow::enable);
+    connect(area_, &BomArea::currentChanged, this, &MainWindow::enable);
+    followFile();
+    followEdits();
+    enable();
+    restoreLayout();
 }
 
 MainWindow::~MainWindow() {
     delete desk_; // its windows show the plan
+    delete progress_;
+}
+
+void MainWindow::fillCentre() {
+    auto* const centre = new QWidget(this);
+    auto* const layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar_);
+    layout->addWidget(area_, 1);
+    setCentralWidget(centre);
+}
+
+void MainWindow::makePanes() {
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    plan_ = new PlanPane(*session_, *choice_);
+    items_ = new ItemPane(*session_, *choice_);
+    addPane(Qt::LeftDockWidgetArea, "Plan", "plan", plan_);
+    addPane(Qt::LeftDockWidgetArea, "Items", "items", items_);
+    addPane(Qt::RightDockWidgetArea, "Properties", "properties", new PropertyPane(*session_, *choice_));
+    addPane(Qt::BottomDockWidgetArea, "Flow", "flow", new FlowPane(*session_, *choice_));
 }
 
 void MainWindow::addPane(Qt::DockWidgetArea area, const QString& title, const QString& name, QWidget* content) {
@@ -28,6 +86,23 @@ void MainWindow::addPane(Qt::DockWidgetArea area, const QString& title, const QS
     dock->setObjectName(name);
     dock->setWidget(content);
     addDockWidget(area, dock);
+}
+
+void MainWindow::restoreLayout() {
+    const QSettings settings;
+    constexpr int kWidth = 1280;
+    constexpr int kHeight = 820;
+    if (restoreGeometry(settings.value("geometry").toByteArray()) &&
+        restoreState(settings.value("layout").toByteArray())) {
+        return;
+    }
+    resize(kWidth, kHeight);
+    const auto dock = [this](const char* name) {
+        return findChild<QDockWidget*>(name);
+    };
+    resizeDocks({dock("plan"), dock("properties")}, {300, 270}, Qt::Horizontal);
+    resizeDocks({dock("plan"), dock("items")}, {460, 260}, Qt::Vertical);
+    resizeDocks({dock("flow")}, {210}, Qt::Vertical);
 }
 
 QStringList MainWindow::open(const Options& options) {
@@ -46,6 +121,125 @@ QStringList MainWindow::open(const Options& options) {
         desk_->open(*root, options.mode);
     }
     return {};
+}
+
+void MainWindow::openBill(int mode) {
+    ModelObject* const present = choice_->present();
+    const bool isRoot = choice_->objects().size() == 1 && BomDesk::isRoot(*present);
+    keepBillMode(mode);
+    desk_->open(isRoot ? *present : *session_->plan().process(), mode);
+}
+
+void MainWindow::revealInPlan() {
+    if (ModelObject* const present = choice_->present()) {
+        if (!plan_->reveal(*present)) {
+            items_->reveal(*present);
+        }
+    }
+}
+
+void MainWindow::revealInBill() {
+    BomSide* const side = desk_->currentSide();
+    const ModelObject* const present = choice_->present();
+    if (side && present && !side->reveal(*present)) {
+        statusBar()->showMessage("\"" + QString::fromStdString(present->name()) + "\" isn't in this bill", 4000);
+    }
+}
+
+void MainWindow::onSide(void (BomSide::*act)()) {
+    if (BomSide* const side = desk_->currentSide()) {
+        (side->*act)();
+    }
+}
+
+void MainWindow::editAdded(ModelObject& object) {
+    if (object.sort() == Sort::Item) {
+        items_->editName(object);
+    } else {
+        plan_->editName(object);
+    }
+}
+
+void MainWindow::rename() {
+    if (ModelObject* const present = choice_->present()) {
+        editAdded(*present);
+    }
+}
+
+void MainWindow::remove() {
+    if (items_->hasKeyboard()) {
+        items_->removeSelected();
+    } else {
+        plan_->removeSelected();
+    }
+}
+
+void MainWindow::chooseFasteners() {
+    FastenerDialog dialog(readFasteners(), this);
+    if (dialog.exec() != QDialog::Accepted || dialog.choice() == readFasteners()) {
+        return;
+    }
+    keepFasteners(dialog.choice());
+    applyFasteners(dialog.choice());
+    if (desk_->count() > 0) {
+        bar_->say("Open bills still show the fasteners chosen before.", {{"Open Them Again",
+                                                                          [this] {
+                                                                              desk_->reopen();
+                                                                          }},
+                                                                         {"Later", [] {
+                                                                          }}});
+    }
+}
+
+void MainWindow::followFile() {
+    const QString name = session_->path().isEmpty() ? session_->title() : QFileInfo(session_->path()).fileName();
+    setWindowTitle(name + "[*] – Planner");
+    setWindowFilePath(session_->path());
+    setWindowModified(session_->isModified());
+    files_->save->setEnabled(session_->isModified() || session_->path().isEmpty());
+}
+
+void MainWindow::followEdits() {
+    const PlanEditor& editor = session_->editor();
+    undo_->setEnabled(editor.canUndo());
+    redo_->setEnabled(editor.canRedo());
+    undo_->setText(editor.canUndo() ? "&Undo: " + QString::fromStdString(editor.undoText()).replace('&', "&&")
+                                    : QString("&Undo"));
+    redo_->setText(editor.canRedo() ? "&Redo: " + QString::fromStdString(editor.redoText()).replace('&', "&&")
+                                    : QString("&Redo"));
+}
+
+void MainWindow::enable() {
+    const bool hasBill = desk_->currentSide() != nullptr;
+    for (QAction* const action : onBill_) {
+        action->setEnabled(hasBill);
+    }
+    split_->setEnabled(area_->canSplit());
+    join_->setEnabled(area_->isSplit());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!files_->mayLeave()) {
+        event->ignore();
+        return;
+    }
+    QSettings settings;
+    settings.setValue("geometry", saveGeometry());
+    settings.setValue("layout", saveState());
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() && event->mimeData()->urls().front().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = event->mimeData()->urls().front().toLocalFile();
+    if (files_->mayLeave()) {
+        files_->openFile(path);
+    }
 }
 
 } // namespace planner::desktop

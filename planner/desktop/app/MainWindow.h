@@ -4,13 +4,28 @@
 
 #include <QMainWindow>
 
+#include <functional>
+#include <vector>
+
+namespace planner {
+class ModelObject;
+}
+
 namespace planner::desktop {
 
 class BomArea;
 class BomDesk;
+class BomSide;
 class Choice;
-class FlowPane;
+class FileCommands;
+class InfoBar;
+class ItemPane;
+class PlanCommands;
+class PlanPane;
 class PlanSession;
+class Progress;
+class StartPage;
+class StatusLine;
 
 /// The application's window: the plan at the left, bills in the middle, what is chosen at the right, the flow below.
 class MainWindow : public QMainWindow {
@@ -24,17 +39,67 @@ public:
     Choice& choice() const { return *choice_; }
     BomArea& area() const { return *area_; }
     BomDesk& desk() const { return *desk_; }
+    FileCommands& files() const { return *files_; }
 
     /// Opens what the command line names. Gives what is wrong with it, a line each.
     QStringList open(const Options& options);
 
+    /// Opens a bill on what is chosen, where that can be the root of one, else on the process.
+    void openBill(int mode);
+
+    /// Shows what is chosen in the plan; in the current bill.
+    void revealInPlan();
+    void revealInBill();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
 private:
     void addPane(Qt::DockWidgetArea area, const QString& title, const QString& name, QWidget* content);
+    void fillCentre();
+    void makePanes();
+    void makeMenus();
+    void makeFileMenu();
+    void makeEditMenu();
+    void makePlanMenu();
+    void makeBillMenu();
+    void makeViewMenu();
+    void makeAppearanceMenu(QMenu& menu);
+    void makeToolBar();
+    QAction* add(QMenu& menu, const QString& text, const QString& iconName, const QKeySequence& keys,
+                 const std::function<void()>& run);
+    void onSide(void (BomSide::*act)());
+
+    void editAdded(ModelObject& object);
+    void rename();
+    void remove();
+    void chooseFasteners();
+    void followFile();
+    void followEdits();
+    void enable();
+    void restoreLayout();
 
     PlanSession* session_;
     Choice* choice_;
+    InfoBar* bar_;
+    StartPage* start_;
     BomArea* area_;
     BomDesk* desk_;
+    Progress* progress_;
+    PlanCommands* commands_;
+    FileCommands* files_;
+    PlanPane* plan_ = nullptr;
+    ItemPane* items_ = nullptr;
+    QMenu* planMenu_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    QAction* bill_ = nullptr; ///< in the mode that was last used
+    QMenu* billModes_ = nullptr;
+    std::vector<QAction*> onBill_;
+    QAction* split_ = nullptr;
+    QAction* join_ = nullptr;
 };
 
 } // namespace planner::desktop

@@ -12,6 +12,11 @@
 #include <QPainter>
 #include <QPalette>
 
+/// The resources of a static library come with the first call for them; outside of any namespace, as the macro wants.
+static void bringResources() {
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace planner::desktop {
 
 namespace {
@@ -74,6 +79,7 @@ QIcon icon(const QString& name) {
     if (known != icons.constEnd()) {
         return *known;
     }
+    bringResources();
     QFile file(fileOf(name));
     const QIcon made = file.open(QIODevice::ReadOnly) ? QIcon(new Engine(Picture(file.readAll()))) : QIcon();
     return *icons.insert(name, made);

@@ -2,13 +2,24 @@
 
 #include "planner/desktop/plan/PlanSession.h"
 
+#include "QORPlatform/visualization/QORXSO.h"
+
 #include <algorithm>
+#include <unordered_set>
 
 namespace planner::desktop {
 
 Choice::Choice(PlanSession& session) : QObject(&session), session_(session) {
     connect(&session_, &PlanSession::aboutToReplace, this, [this] { choose(nullptr); });
+    connect(&session_, &PlanSession::replaced, this, &Choice::listen);
     connect(&session_, &PlanSession::changed, this, &Choice::dropLeft);
+    listen();
+}
+
+/// Subscribes to the set, which counts as its own subscriber: this object outlives it.
+void Choice::listen() {
+    QORXSO* const set = picks();
+    set->Subscribe(set, QORXSO::CHANGED(), [this](auto&&...) { followPicks(); });
 }
 
 bool Choice::contains(const ModelObject* object) const {
@@ -20,12 +31,18 @@ void Choice::choose(ModelObject* object) {
 }
 
 void Choice::choose(const std::vector<ModelObject*>& objects) {
-    Objects chosen(objects.begin(), objects.end());
+    Objects chosen;
+    std::unordered_set<const ModelObject*> met;
+    for (ModelObject* const object : objects) {
+        if (met.insert(object).second) {
+            chosen.emplace_back(object);
+        }
+    }
     if (chosen == objects_) {
         return;
     }
     objects_ = std::move(chosen);
-    writePicks();
+    picks()->SetContent({objects.begin(), objects.end()});
     Q_EMIT changed();
 }
 
@@ -42,14 +59,6 @@ void Choice::dropLeft() {
 
 QORXSO* Choice::picks() const {
     return session_.frmEditor().GetPSO();
-}
-
-void Choice::writePicks() {
-    picks()->Empty();
-    for (const auto& object : objects_) {
-        const auto path = QORVar<QORPathElement>::Adopt(new QORPathElement(object.Get()));
-        picks()->AddElement(path.Get());
-    }
 }
 
 void Choice::followPicks() {

@@ -32,15 +32,13 @@ public:
     /// The object whose properties are shown; null when nothing is chosen.
     ModelObject* present() const { return objects_.empty() ? nullptr : objects_.back().Get(); }
 
-    /// Takes over what was picked in a viewer. Called by whoever sees the set change.
-    void followPicks();
-
 Q_SIGNALS:
     void changed();
 
 private:
     QORXSO* picks() const;
-    void writePicks();
+    void listen();
+    void followPicks();
     void dropLeft();
 
     PlanSession& session_;

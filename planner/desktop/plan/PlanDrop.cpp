@@ -78,6 +78,20 @@ std::vector<PlanDrag::Entry> fromTheBack(std::vector<PlanDrag::Entry> rows) {
     return rows;
 }
 
+/// Whether one entry of a list is dropped in front of another, or behind the last.
+bool isShift(const PlanDrag& drag, const DropPlace& place) {
+    const PlanDrag::Entry& entry = drag.entries().front();
+    return drag.entries().size() == 1 && entry.row.relation && entry.owner == place.object && place.beforeEntry &&
+           place.beforeEntry->row.relation == entry.row.relation;
+}
+
+void shift(PlanEditor& editor, const PlanDrag::Entry& entry, std::size_t before) {
+    const std::size_t to = before > entry.position ? before - 1 : before;
+    if (to != entry.position) {
+        editor.moveEntry(*entry.owner, *entry.row.relation, entry.position, to);
+    }
+}
+
 } // namespace
 
 std::vector<ModelObject*> PlanDrag::objects() const {
@@ -119,6 +133,11 @@ bool drop(PlanSession& session, const PlanDrag& drag, const DropPlace& place, bo
         });
         return true;
     }
+    if (!copy && isShift(drag, place)) {
+        session.perform(
+            [&](PlanEditor& editor) { shift(editor, drag.entries().front(), place.beforeEntry->position); });
+        return true;
+    }
     const bool stays = std::all_of(drag.entries().begin(), drag.entries().end(), [&](const auto& entry) {
         return entry.row.relation && listOf(*place.object, *entry.row.relation);
     });
@@ -128,7 +147,7 @@ bool drop(PlanSession& session, const PlanDrag& drag, const DropPlace& place, bo
     session.perform([&](PlanEditor& editor) {
         editor.group((copy ? "Copy " : "Move ") + called(drag.objects()), [&] {
             for (const auto& entry : drag.entries()) {
-                editor.putItem(*place.object, *entry.row.relation, static_cast<Item&>(*entry.row.object));
+                editor.putItem(*place.object, *entry.row.relation, *entry.row.object);
             }
             for (const auto& entry : copy ? std::vector<PlanDrag::Entry>() : fromTheBack(drag.entries())) {
                 editor.takeItem(*entry.owner, *entry.row.relation, entry.position);
@@ -142,7 +161,7 @@ void putItems(PlanSession& session, ModelObject& owner, Relation relation, const
     session.perform([&](PlanEditor& editor) {
         editor.group("Put " + called(items) + " into \"" + owner.name() + '"', [&] {
             for (ModelObject* const item : items) {
-                editor.putItem(owner, relation, static_cast<Item&>(*item));
+                editor.putItem(owner, relation, *item);
             }
         });
     });

@@ -40,6 +40,7 @@ private:
 struct DropPlace {
     ModelObject* object = nullptr; ///< null for the plan itself
     ModelObject* before = nullptr; ///< the activity or resource that it comes in front of; null for the end
+    std::optional<PlanDrag::Entry> beforeEntry = {}; ///< the item in a list that it comes in front of
 };
 
 /// The relations in which all the items can stand in lists of the owner.

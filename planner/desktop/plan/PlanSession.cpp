@@ -33,6 +33,7 @@ void PlanSession::make(std::unique_ptr<Plan> plan, const QString& path) {
     QORFrmEditor::SetCurrentEditor(frmEditor_.Get());
     editor_ = std::make_unique<PlanEditor>(*document_.Get());
     path_ = path;
+    unsaved_ = false;
 }
 
 void PlanSession::drop() {
@@ -52,6 +53,9 @@ bool PlanSession::perform(const std::function<void(PlanEditor&)>& edits) {
     } catch (const EditError& error) {
         Q_EMIT refused(QString::fromUtf8(error.what()));
         done = false;
+    } catch (const std::exception& error) {
+        // The step was made; somebody who was told of it failed.
+        Q_EMIT refused(QString("A view can't follow: ") + error.what());
     }
     Q_EMIT changed();
     Q_EMIT fileStateChanged();
@@ -74,6 +78,12 @@ void PlanSession::take(std::unique_ptr<Plan> plan, const QString& path) {
     Q_EMIT fileStateChanged();
 }
 
+void PlanSession::takeUnsaved(std::unique_ptr<Plan> plan, const QString& path) {
+    take(std::move(plan), path);
+    unsaved_ = true;
+    Q_EMIT fileStateChanged();
+}
+
 void PlanSession::startNew() {
     take(emptyPlan(), {});
 }
@@ -85,7 +95,7 @@ QStringList PlanSession::open(const QString& path) {
         faults << QString::fromStdString(fault);
     }
     if (read.plan) {
-        take(std::move(read.plan), QFileInfo(path).absoluteFilePath());
+        take(std::move(read.plan), path == "-" ? QString() : QFileInfo(path).absoluteFilePath());
     }
     return faults;
 }
@@ -96,6 +106,8 @@ QString PlanSession::saveAs(const QString& path) {
     }
     path_ = QFileInfo(path).absoluteFilePath();
     editor_->markSaved();
+    unsaved_ = false;
+    Q_EMIT saved();
     Q_EMIT fileStateChanged();
     return {};
 }

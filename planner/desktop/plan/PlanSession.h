@@ -48,10 +48,13 @@ public:
     /// Takes a plan that belongs to the file of that path (empty for none) in place of the present one.
     void take(std::unique_ptr<Plan> plan, const QString& path);
 
+    /// The same for a plan that its file doesn't hold: it counts as modified until it is saved.
+    void takeUnsaved(std::unique_ptr<Plan> plan, const QString& path);
+
     /// Writes the plan to a file, which is its file from then on. Gives what went wrong, or nothing.
     QString saveAs(const QString& path);
 
-    bool isModified() const { return editor_->isModified(); }
+    bool isModified() const { return unsaved_ || editor_->isModified(); }
 
 Q_SIGNALS:
     /// The present plan is about to go: let go of all that belongs to it. Its objects are still there.
@@ -60,6 +63,8 @@ Q_SIGNALS:
     void replaced();
     /// Something in the plan was changed, undone or redone; the platform's windows know by now.
     void changed();
+    /// The plan was written to its file.
+    void saved();
     /// The plan's file, or whether the plan differs from it, is another.
     void fileStateChanged();
     /// An edit was refused, for this reason. Nothing has changed.
@@ -73,6 +78,7 @@ private:
     QORVar<QORFrmEditor> frmEditor_;
     std::unique_ptr<PlanEditor> editor_;
     QString path_;
+    bool unsaved_ = false; // what the editor began with stands in no file
 };
 
 } // namespace planner::desktop

@@ -5,7 +5,7 @@
 #include "planner/desktop/plan/PlanSession.h"
 #include "planner/desktop/plan/RowChanges.h"
 
-#include "planner/model/Activity.h"
+#include "planner/model/Contents.h"
 
 #include <QPalette>
 
@@ -170,9 +170,15 @@ PlanRow PlanTreeModel::rowAt(const QModelIndex& index) const {
 std::size_t PlanTreeModel::listPosition(const QModelIndex& index) const {
     const Node& node = *nodeAt(index);
     const auto& siblings = node.above->below;
-    return static_cast<std::size_t>(
-        std::count_if(siblings.begin(), siblings.begin() + static_cast<std::ptrdiff_t>(node.position),
-                      [&](const auto& sibling) { return sibling->row.relation == node.row.relation; }));
+    auto before = std::count_if(siblings.begin(), siblings.begin() + static_cast<std::ptrdiff_t>(node.position),
+                                [&](const auto& sibling) { return sibling->row.relation == node.row.relation; });
+    ModelObject& owner = *node.above->row.object;
+    const auto& entries = listOf(owner, *node.row.relation)->entries();
+    // What stands in the owner itself has rows of its own.
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const ModelObject* entry) {
+        return !isContained(*entry, &owner) && before-- == 0;
+    });
+    return static_cast<std::size_t>(found - entries.begin());
 }
 
 std::vector<QModelIndex> PlanTreeModel::indexesOf(const ModelObject& object) const {
@@ -352,6 +358,12 @@ bool PlanTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, i
 DropPlace PlanTreeModel::placeAt(int row, const QModelIndex& parent) const {
     const Node& above = *nodeAt(parent);
     DropPlace place{above.row.object};
+    if (row >= 0 && static_cast<std::size_t>(row) < above.below.size()) {
+        const QModelIndex index = indexOf(*above.below[static_cast<std::size_t>(row)]);
+        if (rowAt(index).relation) {
+            place.beforeEntry = PlanDrag::Entry{rowAt(index), above.row.object, listPosition(index)};
+        }
+    }
     for (auto at = static_cast<std::size_t>(row); row >= 0 && at < above.below.size() && !place.before; ++at) {
         const PlanRow& next = above.below[at]->row;
         place.before = next.relation || next.object->sort() == Sort::Behaviour ? nullptr : next.object;

@@ -2,6 +2,7 @@
 
 #include "planner/desktop/toolkit/FramePane.h"
 #include "planner/desktop/toolkit/TreePeer.h"
+#include "planner/desktop/view3d/IdlePeer.h"
 #include "planner/desktop/view3d/MakeView.h"
 
 #include "QORPlatform/frame/QORFrmWindow.h"
@@ -66,25 +67,9 @@ FramePane* paneAround(const QORDialog& dialog) {
     return nullptr;
 }
 
-/// Peer of a viewer of a plane: what would be painted there is the tree, which has a widget of its own.
-class PlainPeer final : public QORViewerPeer {
-public:
-    void ViewpointAdded(QORViewpoint&) override {}
-    void EditorChanged(QORViewpoint&) override {}
-    void ViewpointRemoved(QORViewpoint&) override {}
-    void CameraChanged(QOR3DViewpoint&) override {}
-    void FitAll(QORViewpoint&) override {}
-    void ObjectShown(QORViewpoint&, QORBaseUnknown&) override {}
-    void ObjectHidden(QORViewpoint&, QORBaseUnknown&) override {}
-    void ObjectChanged(QORViewpoint&, QORBaseUnknown&, long) override {}
-    void SelectionChanged(QORViewpoint&) override {}
-    void Redraw() override {}
-    void Draw() override {}
-};
-
 } // namespace
 
-DesktopToolkit::DesktopToolkit(Choice& choice, Place place) : choice_(choice), place_(std::move(place)) {
+DesktopToolkit::DesktopToolkit(Place place) : place_(std::move(place)) {
     QORSetToolkit(this);
 }
 
@@ -99,9 +84,10 @@ std::unique_ptr<QORFrmWindowPeer> DesktopToolkit::MakePeer(QORFrmWindow& window)
 std::unique_ptr<QORViewerPeer> DesktopToolkit::MakePeer(QORViewer& viewer) {
     FramePane* const pane = paneAround(viewer);
     if (!pane || dynamic_cast<QORNavigation2DViewer*>(&viewer)) {
-        return std::make_unique<PlainPeer>();
+        // What a viewer of a plane would paint is the tree, which has a widget of its own.
+        return std::make_unique<IdlePeer<QORViewerPeer>>();
     }
-    auto peer = makeView(viewer, choice_, pane);
+    auto peer = makeView(viewer, pane);
     pane->setView(&peer->widget());
     return peer;
 }

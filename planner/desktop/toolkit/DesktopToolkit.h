@@ -6,7 +6,6 @@
 
 namespace planner::desktop {
 
-class Choice;
 class FramePane;
 
 /// The platform's toolkit on Qt: a pane for each window, with the tree of its box and the widget of its viewer inside.
@@ -16,7 +15,7 @@ public:
     /// Puts the pane of a window that is complete where it will be seen, and becomes its parent.
     using Place = std::function<void(FramePane& pane)>;
 
-    DesktopToolkit(Choice& choice, Place place);
+    explicit DesktopToolkit(Place place);
     ~DesktopToolkit() override;
 
     std::unique_ptr<QORFrmWindowPeer> MakePeer(QORFrmWindow& window) override;
@@ -24,7 +23,6 @@ public:
     std::unique_ptr<QORNavigBoxPeer> MakePeer(QORNavigBox& box) override;
 
 private:
-    Choice& choice_;
     Place place_;
 };
 

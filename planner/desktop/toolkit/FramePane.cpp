@@ -26,6 +26,11 @@ void FramePane::setTree(TreeView* tree) {
     splitter_->setStretchFactor(0, kTreeShare);
 }
 
+void FramePane::setTreeSide(QWidget* side) {
+    splitter_->insertWidget(0, side);
+    splitter_->setStretchFactor(0, kTreeShare);
+}
+
 void FramePane::setView(QWidget* view) {
     view_ = view;
     splitter_->addWidget(view);
@@ -35,6 +40,12 @@ void FramePane::setView(QWidget* view) {
 QString FramePane::title() const {
     const QORFrmWindow* const window = window_.Get();
     return window ? QString::fromUtf8(static_cast<const char*>(window->GetBaseName())).trimmed() : QString();
+}
+
+void FramePane::activate() {
+    if (QORFrmWindow* const window = window_.Get()) {
+        window->ReportActivate();
+    }
 }
 
 void FramePane::close() {

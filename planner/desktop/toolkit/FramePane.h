@@ -26,10 +26,16 @@ public:
     QWidget* view() const { return view_; }
 
     void setTree(TreeView* tree);
+
+    /// Puts a widget that holds the tree in the tree's place.
+    void setTreeSide(QWidget* side);
     void setView(QWidget* view);
 
     /// The window's heading as it fits.
     QString title() const;
+
+    /// A person works in the window from now on.
+    void activate();
 
     /// Asks the window to end, as a person's close does.
     void close();

@@ -65,7 +65,9 @@ void TreeView::showSelection() {
     for (const QORNavigInstance* row : box_->GetSelection()) {
         const QModelIndex index = model_.indexOf(row);
         selection.select(index, index);
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        if (!visualRect(index).isEmpty()) { // it would be opened down to otherwise
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        }
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
@@ -108,6 +110,21 @@ void TreeView::fetchNear() {
     for (const auto& row : ending) {
         row->Fetch(kPortion);
     }
+}
+
+bool TreeView::reveal(const std::vector<int>& path) {
+    QORVar<QORNavigInstance> row(box_ && !path.empty() ? box_->GetRoot(path.front()) : nullptr);
+    for (std::size_t level = 1; row && level < path.size(); ++level) {
+        box_->ReportExpand(*row.Get());
+        row->Fetch(path[level] - row->GetChildCount());
+        row = QORVar<QORNavigInstance>(row->FindChild(path[level]));
+    }
+    if (row) {
+        box_->ReportSelection({row.Get()});
+        scrollTo(model_.indexOf(row.Get()), PositionAtCenter);
+        Q_EMIT picked();
+    }
+    return bool(row);
 }
 
 bool TreeView::openAll(int most) {

@@ -2,6 +2,8 @@
 
 #include <QTreeView>
 
+#include <vector>
+
 class QORNavigBox;
 class QORNavigInstance;
 
@@ -26,6 +28,10 @@ public:
     /// Show what the box says is selected, and take over its controller's settings.
     void showSelection();
     void followSettings();
+
+    /// Opens the tree down to the row at the end of a path of positions from the root on, counted from 1, and selects
+    /// it. False where there is none.
+    bool reveal(const std::vector<int>& path);
 
     /// Opens rows level by level, until so many are there. False when there would be more.
     bool openAll(int most);

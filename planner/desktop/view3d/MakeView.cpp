@@ -4,7 +4,7 @@
 
 namespace planner::desktop {
 
-std::unique_ptr<ViewPeer> makeView(QORViewer&, Choice&, QWidget* parent) {
+std::unique_ptr<ViewPeer> makeView(QORViewer&, QWidget* parent) {
     return std::make_unique<NoView>("this build draws none.", parent);
 }
 

@@ -8,10 +8,8 @@ class QORViewer;
 
 namespace planner::desktop {
 
-class Choice;
-
 /// The peer of a viewer into space, its widget a child of the parent. Where there is no OpenGL the widget says so. What
-/// a person picks goes to the viewer, and by that to the choice.
-std::unique_ptr<ViewPeer> makeView(QORViewer& viewer, Choice& choice, QWidget* parent);
+/// a person picks and points at goes to the viewer.
+std::unique_ptr<ViewPeer> makeView(QORViewer& viewer, QWidget* parent);
 
 } // namespace planner::desktop

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "planner/model/Kinds.h"
+
+#include <QObject>
+
+#include <array>
+
+class QAction;
+class QMenu;
+
+namespace planner {
+class Activity;
+class FlowObject;
+class ModelObject;
+class Plan;
+} // namespace planner
+
+namespace planner::desktop {
+
+class Choice;
+class PlanSession;
+
+/// The edits that a person makes by menu, tool bar and keyboard. They work on what is chosen.
+class PlanCommands : public QObject {
+    Q_OBJECT
+
+public:
+    PlanCommands(PlanSession& session, Choice& choice, QObject* parent);
+
+    QAction* addStep;      ///< behind the chosen step, linked in; at the end of the chosen activity or behaviour
+    QAction* addInside;    ///< a step in the chosen one
+    QAction* addResource;  ///< in the chosen resource, or at the top
+    QAction* addBehaviour; ///< to the chosen resource
+    QAction* link;         ///< what is chosen, each with the next in the order of choosing
+    std::array<QAction*, kItemKinds.size()> addItem;     ///< to the plan, and to the chosen step
+    std::array<QAction*, kActivityKinds.size()> setKind; ///< of the chosen activities
+
+Q_SIGNALS:
+    /// An object was added: show it, and let its name be typed.
+    void added(planner::ModelObject* object);
+
+private:
+    QAction* make(const QString& text, const QString& iconName, const QKeySequence& keys, void (PlanCommands::*run)());
+    void enable();
+    void runAddStep();
+    void runAddInside();
+    void runAddResource();
+    void runAddBehaviour();
+    void runLink();
+    void runAddItem(ItemKind kind);
+    void runSetKind(ActivityKind kind);
+    void addStepTo(FlowObject& container, Activity* before);
+
+    PlanSession& session_;
+    Choice& choice_;
+};
+
+} // namespace planner::desktop

@@ -1,0 +1,151 @@
+#include "planner/desktop/plan/PlanPane.h"
+
+#include "planner/desktop/icons/Icons.h"
+#include "planner/desktop/plan/Choice.h"
+#include "planner/desktop/plan/PlanDrop.h"
+#include "planner/desktop/plan/PlanSession.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace planner::desktop {
+
+PlanPane::PlanPane(PlanSession& session, Choice& choice, QWidget* parent)
+    : QTreeView(parent), session_(session), choice_(choice), model_(new PlanTreeModel(session, this)) {
+    setObjectName("plan-tree");
+    setModel(model_);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed | SelectedClicked);
+    setDragDropMode(DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    setDropIndicatorShown(true);
+    setAutoExpandDelay(600);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(PlanTreeModel::Name, QHeaderView::Stretch);
+    header()->setSectionResizeMode(PlanTreeModel::What, QHeaderView::ResizeToContents);
+    connect(model_, &PlanTreeModel::relationWanted, this, &PlanPane::askRelation);
+    connect(&choice_, &Choice::changed, this, &PlanPane::showChoice);
+    connect(&session_, &PlanSession::replaced, this, &PlanPane::openProcess, Qt::QueuedConnection);
+    openProcess();
+}
+
+void PlanPane::openProcess() {
+    setExpanded(model_->index(0, 0), true);
+}
+
+void PlanPane::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    std::erase_if(order_, [this](const QPersistentModelIndex& index) {
+        return !index.isValid() || !selectionModel()->isSelected(index);
+    });
+    for (const QModelIndex& index : selectionModel()->selectedRows()) {
+        if (std::find(order_.begin(), order_.end(), index) == order_.end()) {
+            order_.emplace_back(index);
+        }
+    }
+    if (following_) {
+        return;
+    }
+    const QScopedValueRollback<bool> following(following_, true);
+    std::vector<ModelObject*> chosen;
+    for (const QPersistentModelIndex& index : order_) {
+        chosen.push_back(model_->rowAt(index).object);
+    }
+    choice_.choose(chosen);
+}
+
+/// Selects rows of what was chosen elsewhere, as far as they are in sight of an open tree.
+void PlanPane::showChoice() {
+    if (following_) {
+        return;
+    }
+    const QScopedValueRollback<bool> following(following_, true);
+    QItemSelection selection;
+    QModelIndex first;
+    for (const auto& object : choice_.objects()) {
+        for (const QModelIndex& index : model_->indexesOf(*object.Get())) {
+            selection.select(index, index.siblingAtColumn(PlanTreeModel::What));
+            first = first.isValid() || visualRect(index).isEmpty() ? first : index;
+        }
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (first.isValid()) {
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        scrollTo(first);
+    }
+}
+
+bool PlanPane::reveal(ModelObject& object) {
+    QModelIndex index = model_->reach(object);
+    const auto made = index.isValid() ? std::vector<QModelIndex>() : model_->indexesOf(object);
+    if (!made.empty()) {
+        index = made.front();
+    }
+    if (!index.isValid()) {
+        return false;
+    }
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index, PositionAtCenter);
+    return true;
+}
+
+void PlanPane::editName(ModelObject& object) {
+    if (reveal(object) && (model_->flags(currentIndex()) & Qt::ItemIsEditable)) {
+        setFocus();
+        edit(currentIndex());
+    }
+}
+
+void PlanPane::removeSelected() {
+    std::vector<PlanDrag::Entry> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows()) {
+        const PlanRow row = model_->rowAt(index);
+        rows.push_back({row, model_->rowAt(index.parent()).object, row.relation ? model_->listPosition(index) : 0});
+    }
+    if (!rows.empty()) {
+        removeRows(session_, rows);
+    }
+}
+
+void PlanPane::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Delete)) {
+        removeSelected();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void PlanPane::contextMenuEvent(QContextMenuEvent* event) {
+    if (menu_) {
+        menu_->popup(event->globalPos());
+    }
+}
+
+void PlanPane::askRelation(ModelObject* owner, const std::vector<ModelObject*>& items) {
+    const std::vector<Relation> relations = relationsFor(*owner, items);
+    if (relations.size() == 1) {
+        putItems(session_, *owner, relations.front(), items);
+        return;
+    }
+    auto* const menu = new QMenu(this);
+    menu->setObjectName("relation-menu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSection("Put it there as");
+    for (const Relation relation : relations) {
+        QAction* const action =
+            menu->addAction(icon(QString::fromUtf8(relationText(relation).data())), relationName(relation));
+        connect(action, &QAction::triggered, this,
+                [this, owner, relation, items] { putItems(session_, *owner, relation, items); });
+    }
+    // Not from inside the drag, which has an event loop of its own.
+    QMetaObject::invokeMethod(
+        menu, [menu] { menu->popup(QCursor::pos()); }, Qt::QueuedConnection);
+}
+
+} // namespace planner::desktop

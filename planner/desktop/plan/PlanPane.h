@@ -1,0 +1,51 @@
+#pragma once
+
+#include "planner/desktop/plan/PlanTreeModel.h"
+
+#include <QTreeView>
+
+class QMenu;
+
+namespace planner::desktop {
+
+class Choice;
+
+/// The plan as a tree that a person works in: choosing, naming, dragging, removing.
+class PlanPane : public QTreeView {
+    Q_OBJECT
+
+public:
+    PlanPane(PlanSession& session, Choice& choice, QWidget* parent = nullptr);
+
+    /// The menu of a right click.
+    void setMenu(QMenu* menu) { menu_ = menu; }
+
+    /// Opens the tree down to an activity, a resource or a behaviour, or to a row of an item that was made, and shows
+    /// it; false when there is none.
+    bool reveal(ModelObject& object);
+
+    /// Lets the name of a revealed object be typed.
+    void editName(ModelObject& object);
+
+    /// Removes what the selected rows stand for.
+    void removeSelected();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    void showChoice();
+    void askRelation(ModelObject* owner, const std::vector<ModelObject*>& items);
+    void openProcess();
+
+    PlanSession& session_;
+    Choice& choice_;
+    PlanTreeModel* model_;
+    QMenu* menu_ = nullptr;
+    std::vector<QPersistentModelIndex> order_; // selected rows, as they were chosen
+    bool following_ = false;
+};
+
+} // namespace planner::desktop
