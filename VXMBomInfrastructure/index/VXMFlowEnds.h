@@ -3,8 +3,7 @@
 // In place of: a walk from the node to its end at each second arrival, a million steps each on a long line.
 // Why the same: a first successor never changes once it is there, so that what lay between a node and one further along
 // stays there; only the end itself isn't kept, since the flow may still grow from it.
-// What it gains: a line of 200,000 steps that are all linked to one step more takes 0.5 s; the plain walk took 40 s for
-// 40,000.
+// What it gains: a line of 20,000 steps that are all linked to one step more takes 0.08 s in place of 43.
 //
 // First successors make a forest whose trees grow at their roots; a root that gets a successor inside its own tree
 // closes a loop. Each node remembers some node further along, which searches push on towards the root. A search that

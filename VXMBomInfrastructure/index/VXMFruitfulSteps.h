@@ -6,8 +6,8 @@
 // along paths and come back to nobody. Without a loop a step is fruitless when neither it nor anything before it brings
 // products. On a loop the products may lie behind a step that the walk has come past, so there it is looked for anew
 // from each step, along ways that the present path leaves open.
-// What it gains: 30 sections in a row that fork and join without a list take no time in place of 2^30 paths. A walk
-// that writes a trace shows every call, so it passes over nothing.
+// What it gains: 18 sections in a row that fork and join without a list take 0.2 ms in place of 75, which double with
+// each section more. A walk that writes a trace shows every call, so it passes over nothing.
 
 #pragma once
 

@@ -4,8 +4,9 @@
 // million children under the top node, or a million nodes in a register, each removal would cost a million steps.
 // Why the same: a node that leaves makes its place empty. Positions count the places that are taken, so every position,
 // and the order, are those of the closed list. A value that was entered twice is searched from the front.
-// What it gains: taking a million nodes out from the front by value costs 0.1 s instead of about an hour. Positions
-// that are asked for one after the other, as a pass does, cost a step each.
+// What it gains: 33,000 products that are assigned, removed and assigned again take 0.5 s in place of 3.5, and the
+// cost grows with their number, not with its square. Positions that are asked for one after the other, as a pass
+// does, cost a step each.
 
 #pragma once
 

@@ -4,8 +4,8 @@
 // million steps each where the top node has a million children.
 // Why the same: a chain holds the list's assignments of one product in list order. What the pass takes out of the list
 // leaves its chain, and what it appends is appended to its chain, so the first of the chain is the first of the list.
-// What it gains: a million products that are assigned, removed and assigned again take 4 s; 20,000 already took as long
-// with the search from the front.
+// What it gains: 10,000 products that are assigned, removed and assigned again take 0.14 s in place of 0.72, and the
+// cost grows with their number, not with its square.
 
 #pragma once
 

@@ -1,7 +1,9 @@
 // Small numbers for the nodes of a graph, so that what a walk knows of each stands in plain arrays.
 //
-// In place of: a set or map by node. Same result: one number a node. What it gains: a step of the backward walk costs a
-// comparison instead of a look-up, 3 % of a GetBom on a chain of a million.
+// In place of: a set or map by node.
+// Why the same: each node has one number, and no two share one.
+// What it gains: a step of the backward walk costs a comparison in place of a look-up, a tenth of a GetBom on a chain
+// of 300,000.
 
 #pragma once
 
