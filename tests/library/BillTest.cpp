@@ -110,7 +110,7 @@ const BillRow kStructures[] = {
          world["A"].name = "T\xC3\xBCr & <\xE2\x82\xAC>";
      }},
 };
-const BillRow kOlder[] = {
+const BillRow kLegacy[] = {
     {"OutputsOpenLevels", "S1: +P | S2: >Q | S3: >O", "O(Q(P))"},
     {"OwnNodesBeforeEarlierSteps", "S1: +P | S2: >Q | S3: >O +N", "O(N Q(P))"},
     {"OnlyTheFirstOutputReceives", "S1: +P | S2: >O1 >O2 +N", "O1(N P) O2"},
@@ -134,7 +134,7 @@ const BillRow kResources[] = {
     {"BehaviourWithoutItems", "R@resource: +P", "", lacks("R.b", kResourceItems)},
     {"UnlinkedFastenerTypeIsAProduct", "R@resource: *w{Nail}", "w"},
 };
-const BillRow kOlderResources[] = {
+const BillRow kLegacyResources[] = {
     {"OutputsOpenLevels", "R@resource: >X ( C1@resource: +P | C2@resource: >O[P Q] +R )", "X(O(P Q R))"},
 };
 TEST(Bills, AreWhatTheTablesSay) {
@@ -142,9 +142,9 @@ TEST(Bills, AreWhatTheTablesSay) {
     checkBills(kFlows, Root::Process, Algorithm::Present);
     checkBills(kStations, Root::Process, Algorithm::Present);
     checkBills(kStructures, Root::Process, Algorithm::Present);
-    checkBills(kOlder, Root::Process, Algorithm::Older);
+    checkBills(kLegacy, Root::Process, Algorithm::Legacy);
     checkBills(kResources, Root::Resource, Algorithm::Present);
-    checkBills(kOlderResources, Root::Resource, Algorithm::Older);
+    checkBills(kLegacyResources, Root::Resource, Algorithm::Legacy);
 }
 
 TEST(PreviewObjects, DescendantsComeBeforeTheirProduct) {

@@ -15,7 +15,7 @@
 namespace testmodel {
 
 enum class Root { Process, Resource };
-enum class Algorithm { Present, Older };
+enum class Algorithm { Present, Legacy };
 
 inline Thing& draw(World& world, Root kind, const char* drawing) {
     return kind == Root::Process ? drawPlan(world, drawing) : drawResource(world, drawing);
@@ -23,7 +23,7 @@ inline Thing& draw(World& world, Root kind, const char* drawing) {
 
 /// A generator for the root, as the environment variable makes it.
 inline std::unique_ptr<VXMBomGenerator> makeGenerator(Thing& root, Root kind, Algorithm algorithm) {
-    const Environment environment("FAB_BOM_OLD_ALGORITHM", algorithm == Algorithm::Older ? "TRUE" : nullptr);
+    const Environment environment("FAB_BOM_OLD_ALGORITHM", algorithm == Algorithm::Legacy ? "TRUE" : nullptr);
     if (kind == Root::Process) {
         return std::make_unique<VXMProcessBomGenerator>(handle(root));
     }

@@ -241,7 +241,7 @@ void raiseEverywhere(const RaisingRow& row, Algorithm algorithm) {
 TEST(GetBom, AModelThatRaisesLeavesTheLastSuccessInPlace) {
     for (const RaisingRow& row : kRaising) {
         raiseEverywhere(row, Algorithm::Present);
-        raiseEverywhere(row, Algorithm::Older);
+        raiseEverywhere(row, Algorithm::Legacy);
     }
 }
 

@@ -41,7 +41,7 @@ void rebuiltEqualsFreshAndTracedEqualsUntraced(Root kind, Algorithm algorithm) {
 TEST(RandomModels, RebuiltEqualsFreshAndTracedEqualsUntraced) {
     for (const Root kind : {Root::Process, Root::Resource}) {
         rebuiltEqualsFreshAndTracedEqualsUntraced(kind, Algorithm::Present);
-        rebuiltEqualsFreshAndTracedEqualsUntraced(kind, Algorithm::Older);
+        rebuiltEqualsFreshAndTracedEqualsUntraced(kind, Algorithm::Legacy);
     }
 }
 

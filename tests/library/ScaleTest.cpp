@@ -139,10 +139,10 @@ TEST(Scale, DeepAssemblies) {
     Thing& root = drawPlan(world, "S1: +A[] | S2");
     nest(world, &Thing::held, kAssembly);
     expectElements(root, kDeep);
-    expectElements(root, kDeep, Root::Process, Algorithm::Older);
+    expectElements(root, kDeep, Root::Process, Algorithm::Legacy);
 }
 
-TEST(Scale, OutputsNestedByTheOlderAlgorithm) {
+TEST(Scale, OutputsNestedByTheLegacyAlgorithm) {
     World world;
     Thing& root = chainPlan(world, kMany);
     for (Thing* step : *root.children) {
@@ -150,7 +150,7 @@ TEST(Scale, OutputsNestedByTheOlderAlgorithm) {
         step->items[2]->clear();
         world.putOut(*step, product);
     }
-    expectElements(root, kMany, Root::Process, Algorithm::Older);
+    expectElements(root, kMany, Root::Process, Algorithm::Legacy);
 }
 
 TEST(Scale, ChainOfResources) {

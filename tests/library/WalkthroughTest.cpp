@@ -64,7 +64,7 @@ TEST(Walkthrough, ShowsWhatTheLibraryMakes) {
     EXPECT_EQ(drawingOf(*top), page["repeats"]);
 
     EXPECT_EQ(bomText(VXMProcessBomGenerator(handle(root)).GetBom(0)), page["bill"]);
-    EXPECT_EQ(bomText(makeGenerator(root, Root::Process, Algorithm::Older)->GetBom(0)), page["legacy"]);
+    EXPECT_EQ(bomText(makeGenerator(root, Root::Process, Algorithm::Legacy)->GetBom(0)), page["legacy"]);
 }
 
 } // namespace
