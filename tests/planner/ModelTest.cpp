@@ -2,12 +2,8 @@
 
 #include "PlanText.h"
 
-#include "planner/model/FastenerSettings.h"
-
-#include "QORPlatform/framework/QORComponents.h"
 #include "QORPlatform/framework/QORModelIdentificator.h"
 #include "VXMBomInfrastructure/model/QORISPPProductIO.h"
-#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 
 #include <gtest/gtest.h>
 
@@ -225,31 +221,6 @@ TEST(PlanEnd, LeavesAHandleGoodAndItsObjectAlone) {
     plan.reset();
     EXPECT_EQ(adopted(root->GetChildren("")), "null");
     EXPECT_EQ(adopted(parent->GetChildren("QORIProduct")), "null");
-}
-
-VXMIMVWMBOMViewerSettingAtt_var makeSettings() {
-    void* found = nullptr;
-    QORInstantiateComponent("VXMMVWMBOMViewerSettingCtrl", IID_VXMIMVWMBOMViewerSettingAtt, &found);
-    return VXMIMVWMBOMViewerSettingAtt_var::Adopt(static_cast<VXMIMVWMBOMViewerSettingAtt*>(found));
-}
-
-TEST(Settings, AnswerFromTheStoreAndLeaveAloneWhatWasNeverSet) {
-    {
-        const planner::FastenerSettings registration;
-        const auto settings = makeSettings();
-        ASSERT_TRUE(settings);
-        int value = 7;
-        EXPECT_LT(settings->GetShowStud(value), 0);
-        EXPECT_EQ(value, 7);
-        planner::FastenerSettings::store().Set("ShowStud", 2);
-        planner::FastenerSettings::store().Set(VXMAssignedFastenersOnlySetting, 0);
-        EXPECT_EQ(settings->GetShowStud(value), QOR_OK);
-        EXPECT_EQ(value, 2);
-        EXPECT_EQ(settings->GetShowAssignedFastenersOnly(value), QOR_OK);
-        EXPECT_EQ(value, 0);
-        planner::FastenerSettings::store().ResetAll();
-    }
-    EXPECT_FALSE(makeSettings());
 }
 
 } // namespace

@@ -35,18 +35,8 @@ TEST(Document, LeadsToTheRootActivityAsLongAsItsContainerIsThere) {
         QORISPPProcessContainer_var(container)->GetAllProcess());
     ASSERT_EQ(processes->Size(), 1);
     EXPECT_TRUE(QORISPPActivityRoot_var((*processes)[1]));
+    EXPECT_TRUE(QORISPPActivityModificationEvents_var((*processes)[1]));
     EXPECT_EQ(planner::ModelObject::behind((*processes)[1])->id(), "line");
-}
-
-TEST(Root, AloneAnswersForTheWholePlan) {
-    Session s(kWorld);
-    const QORISPPActivityModificationEvents_var events(s.plan().process());
-    EXPECT_TRUE(QORISPPActivityRoot_var(s.plan().process()));
-    EXPECT_NE(events->GetEventPublisher(), nullptr);
-    EXPECT_EQ(events->GetEventPublisher(), events->GetEventPublisher());
-    EXPECT_FALSE(QORISPPActivityRoot_var(&s.activity("load")));
-    EXPECT_FALSE(QORISPPActivityModificationEvents_var(&s.activity("load")));
-    EXPECT_TRUE(QORISPPActivityRoot_var(Session(R"({"version": 1})").plan().process())) << "made, not in the file";
 }
 
 /// What an item shows: its kind and sizes, file and part; its place.
