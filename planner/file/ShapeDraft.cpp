@@ -7,10 +7,8 @@ namespace planner {
 namespace {
 
 std::string formNames() {
-    std::vector<std::string_view> names;
-    for (const FormRule& form : kForms) {
-        names.push_back(form.key);
-    }
+    std::vector<std::string_view> names(kForms.size());
+    std::transform(kForms.begin(), kForms.end(), names.begin(), [](const FormRule& form) { return form.key; });
     return alternatives(names);
 }
 
