@@ -1,11 +1,11 @@
 // Cleaning of the MBOM, pass by pass.
 //
-// Present way: removals and assignments of a product that stand beside each other go in pairs; process assignments go
-// where the product is assigned beside them otherwise; and over the whole tree, depth first, the first node of each
-// product stays and later removable ones go with all below them. The last step of the flow stands first in the tree, so
-// a product is shown where it was named last.
+// Present algorithm: removals and assignments of a product that stand beside each other go in pairs; process
+// assignments go where the product is assigned beside them otherwise; and over the whole tree, depth first, the first
+// node of each product stays and later removable ones go with all below them. The last step of the flow stands first in
+// the tree, so a product is shown where it was named last.
 //
-// Legacy way: the same pairing, then repeats go twice over, once over the whole tree and once among siblings.
+// Legacy algorithm: the same pairing, then repeats go twice over, once over the whole tree and once among siblings.
 //
 // Every loop reads its count at the start. A node that goes lowers it, and the loop stays at the position; what was
 // lifted to the end meanwhile isn't part of that run.
