@@ -57,8 +57,6 @@ TEST(FlowNode, ReadsNameAndIdentity) {
     const VXMFabProcessFlowNode node = processNode(world["A"]);
     EXPECT_EQ(node.GetName(), "A");
     EXPECT_EQ(node.GetIDString(), "3");
-    EXPECT_EQ(node.GetNumber(), 7);
-    EXPECT_EQ(node.GetLevel(), 2);
     EXPECT_EQ(node.GetNodeType(), VXMFabFlowNode::NT_LOADING);
     EXPECT_EQ(node.ParentIsStation(), 1);
     EXPECT_EQ(node.GetActivity(), handle(world["A"]));

@@ -45,37 +45,6 @@ TEST(RandomModels, RebuiltEqualsFreshAndTracedEqualsUntraced) {
     }
 }
 
-int standsInStation(const Thing& step) {
-    for (const Thing* above = step.parent; above; above = above->parent) {
-        const auto type = above->modelTypes.find("BIWActivityStation");
-        if ((above->answers & kAbstract) == 0) {
-            return 0; // nothing that the climb could go on with
-        }
-        if ((above->answers & kSpec) != 0 && type != above->modelTypes.end() && type->second == 1) {
-            return 1;
-        }
-    }
-    return 0;
-}
-
-TEST(Stations, RememberedEqualsClimbed) {
-    int inStation = 0;
-    for (unsigned seed = 1; seed <= 800; ++seed) {
-        std::mt19937 random(seed);
-        World world;
-        VXMProcessBomGenerator generator(handle(drawRandom(world, random, Root::Process)));
-        generator.MainCheckFlow();
-        for (Thing* thing : world.things()) {
-            const VXMFabFlowNode* const node = generator.CheckUse(handle(*thing));
-            if (node && node->GetNumber() > 0) {
-                EXPECT_EQ(node->ParentIsStation(), standsInStation(*thing)) << thing->name << ", seed " << seed;
-                inStation += node->ParentIsStation();
-            }
-        }
-    }
-    EXPECT_GT(inStation, 150);
-}
-
 /// Notes what the walk's searches for first items gave.
 class NotingGenerator : public VXMProcessBomGenerator {
 public:
