@@ -1,5 +1,5 @@
 """Compares what a library lets out with what its headers declare: public and protected operations that aren't inline,
-what derived classes need besides (private virtual operations, type data), all of one version, and nothing else.
+what derived classes and inline code need besides, type data, all of one version, and nothing else.
 
     python3 check_exports.py --clang CLANG --nm NM --library LIBRARY --version NODE --include FOLDER --headers FOLDER
                              --names PREFIX...
@@ -14,7 +14,8 @@ import re
 import subprocess
 import sys
 
-METHODS = {"CXXMethodDecl", "CXXConstructorDecl", "CXXDestructorDecl", "CXXConversionDecl"}
+# A VarDecl in a class is a static field.
+MEMBERS = {"CXXMethodDecl", "CXXConstructorDecl", "CXXDestructorDecl", "CXXConversionDecl", "VarDecl"}
 
 
 def run(command, text=""):
@@ -42,8 +43,13 @@ def is_virtual(function):
 
 
 def is_defined_elsewhere(function):
-    passed_over = ("isImplicit", "explicitlyDeleted", "explicitlyDefaulted", "inline", "pure")
+    passed_over = ("isImplicit", "explicitlyDeleted", "explicitlyDefaulted", "inline", "constexpr", "pure")
     return not any(function.get(mark) for mark in passed_over) and not has(function, "CompoundStmt")
+
+
+def is_needed(member):
+    """Whether a private member is called from outside after all: by tables of derived classes, or by inline code."""
+    return is_virtual(member) or member.get("isUsed") or member.get("isReferenced")
 
 
 def operations_of(record):
@@ -52,7 +58,7 @@ def operations_of(record):
         kind = part.get("kind")
         if kind == "AccessSpecDecl":
             access = part["access"]
-        elif kind in METHODS and is_defined_elsewhere(part) and (access != "private" or is_virtual(part)):
+        elif kind in MEMBERS and is_defined_elsewhere(part) and (access != "private" or is_needed(part)):
             yield part["mangledName"]
         elif kind == "CXXRecordDecl" and access != "private" and part.get("completeDefinition"):
             yield from operations_of(part)
