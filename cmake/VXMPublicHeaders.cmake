@@ -9,6 +9,7 @@ set(public_headers
     VXMBomInfrastructure/generation/StrX.h
     VXMBomInfrastructure/generation/VXMBomGenerator.h
     VXMBomInfrastructure/generation/VXMHandleOrder.h
+    VXMBomInfrastructure/generation/VXMMakeBomGenerator.h
     VXMBomInfrastructure/navigation/VXMBomNavObject.h
     VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObject.h
     VXMBomInfrastructure/nodes/VXMFabMBOMNode.h
@@ -37,6 +38,7 @@ list(
   QORPlatform/navigation/QORTvwTreeSettingCtrl.h
   QORPlatform/notification/QORSPPActivityNotification.h
   QORPlatform/settings/QORSettingStore.h
+  QORPlatform/toolkit/QORIcons.h
   QORPlatform/toolkit/QORLoopPeer.h
   QORPlatform/toolkit/QORProgress.h
   QORPlatform/toolkit/QORToolkit.h

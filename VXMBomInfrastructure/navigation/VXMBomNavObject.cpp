@@ -1,9 +1,12 @@
 #include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
 
+#include "QORPlatform/dom/DOM_Document.h"
 #include "QORPlatform/framework/QORDictionary.h"
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "QORPlatform/navigation/QORINavigateObjectModify.h"
+#include "QORPlatform/navigation/QORINavigateObjectPPR.h"
 #include "QORPlatform/visualization/QORPathElement.h"
 #include "VXMBomInfrastructure/generation/StrX.h"
-#include "VXMBomInfrastructure/navigation/VXMBomNavObjectTies.h"
 #include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
 
 #include <memory>
@@ -11,6 +14,30 @@
 namespace {
 
 constexpr const char* kClass = "VXMBomNavObject";
+
+// The forwarders, and the factories that the dictionary knows them by.
+
+class TIEQORINavigateObjectVXMBomNavObject final : public QORINavigateObjectTie<VXMBomNavObject> {
+    using QORINavigateObjectTie<VXMBomNavObject>::QORINavigateObjectTie;
+};
+class TIEQORINavigateObjectPPRVXMBomNavObject final : public QORINavigateObjectPPRTie<VXMBomNavObject> {
+    using QORINavigateObjectPPRTie<VXMBomNavObject>::QORINavigateObjectPPRTie;
+};
+class TIEQORINavigateObjectModifyVXMBomNavObject final : public QORINavigateObjectModifyTie<VXMBomNavObject> {
+    using QORINavigateObjectModifyTie<VXMBomNavObject>::QORINavigateObjectModifyTie;
+};
+
+QORBaseUnknown* CreateTIEQORINavigateObjectVXMBomNavObject(QORBaseUnknown* iImplementation) {
+    return new TIEQORINavigateObjectVXMBomNavObject(static_cast<VXMBomNavObject*>(iImplementation));
+}
+
+QORBaseUnknown* CreateTIEQORINavigateObjectPPRVXMBomNavObject(QORBaseUnknown* iImplementation) {
+    return new TIEQORINavigateObjectPPRVXMBomNavObject(static_cast<VXMBomNavObject*>(iImplementation));
+}
+
+QORBaseUnknown* CreateTIEQORINavigateObjectModifyVXMBomNavObject(QORBaseUnknown* iImplementation) {
+    return new TIEQORINavigateObjectModifyVXMBomNavObject(static_cast<VXMBomNavObject*>(iImplementation));
+}
 
 const QORFillDictionary navigateObject(kClass, IID_QORINavigateObject, CreateTIEQORINavigateObjectVXMBomNavObject);
 const QORFillDictionary navigateObjectPPR(kClass, IID_QORINavigateObjectPPR,
@@ -20,13 +47,18 @@ const QORFillDictionary navigateObjectModify(kClass, IID_QORINavigateObjectModif
 
 } // namespace
 
+struct VXMBomNavObjectState {
+    DOM_Element element;
+};
+
 VXMBomNavObject::VXMBomNavObject(const QORISPPActivity_var& iActivity) {
     VXMProcessBomGenerator generator(iActivity);
     const DOM_Document document = generator.GetBom(0);
-    _element = document.getDocumentElement();
+    _state = std::make_unique<VXMBomNavObjectState>(VXMBomNavObjectState{document.getDocumentElement()});
 }
 
-VXMBomNavObject::VXMBomNavObject(DOM_Element& iElement) : _element(iElement) {}
+VXMBomNavObject::VXMBomNavObject(DOM_Element& iElement)
+    : _state(std::make_unique<VXMBomNavObjectState>(VXMBomNavObjectState{iElement})) {}
 
 VXMBomNavObject::~VXMBomNavObject() = default;
 
@@ -42,10 +74,11 @@ QORListValQORUnicodeString* VXMBomNavObject::GetIdentificators() {
     static const DOMString documentTag("BOM");
     static const DOMString displayName("DisplayName");
     auto labels = std::make_unique<QORListValQORUnicodeString>();
-    if (_element.getNodeName().equals(documentTag)) {
+    const DOM_Element& element = _state->element;
+    if (element.getNodeName().equals(documentTag)) {
         labels->Append("Bom");
     } else {
-        const StrX name(_element.getAttribute(displayName));
+        const StrX name(element.getAttribute(displayName));
         labels->Append(QORUnicodeString(name.localForm()));
     }
     return labels.release();
@@ -53,7 +86,7 @@ QORListValQORUnicodeString* VXMBomNavObject::GetIdentificators() {
 
 QORListValQORBaseUnknown_var* VXMBomNavObject::GetChildren() {
     auto objects = std::make_unique<QORListValQORBaseUnknown_var>();
-    const DOM_NodeList nodes = _element.getChildNodes();
+    const DOM_NodeList nodes = _state->element.getChildNodes();
     const int length = nodes.getLength();
     for (int index = 0; index < length; ++index) {
         const DOM_Node node = nodes.item(index);

@@ -2,16 +2,19 @@
 
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 #include "QORPlatform/collections/QORListValQORUnicodeString.h"
-#include "QORPlatform/dom/DOM_Element.h"
 #include "QORPlatform/framework/QORObjectCounts.h"
 #include "VXMBomInfrastructure/VXMExport.h"
 #include "VXMBomInfrastructure/model/QORISPPActivity.h"
 
-class QORPathElement;
+#include <memory>
 
-/// Tree object of a BOM: each stands for an element of the document and takes its label and its children from there. It
-/// knows nothing but the element, and with it holds the whole document: what shows an older bill keeps that bill.
-/// Answers QORINavigateObject, QORINavigateObjectPPR and QORINavigateObjectModify.
+class DOM_Element;
+class QORPathElement;
+struct VXMBomNavObjectState;
+
+/// Tree object of a BOM, of class "VXMBomNavObject": each stands for an element of the document and takes its label and
+/// its children from there. It knows nothing but the element, and with it holds the whole document: what shows an older
+/// bill keeps that bill. Answers QORINavigateObject, QORINavigateObjectPPR and QORINavigateObjectModify.
 class VXM_EXPORT VXMBomNavObject : public QORBaseUnknown, private QORCounted<VXMBomNavObject> {
 public:
     static constexpr std::string_view kCountName = "VXMBomNavObject";
@@ -39,5 +42,5 @@ public:
 private:
     friend class QORCounted<VXMBomNavObject>;
 
-    DOM_Element _element;
+    std::unique_ptr<const VXMBomNavObjectState> _state;
 };

@@ -2,7 +2,8 @@
 
 #include "QORPlatform/framework/QORDictionary.h"
 #include "QORPlatform/navigation/QORIGraphNode.h"
-#include "VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObjectTies.h"
+#include "QORPlatform/navigation/QORINavigElement.h"
+#include "QORPlatform/navigation/QORINavigModify.h"
 
 namespace {
 
@@ -12,6 +13,23 @@ constexpr const char* kNodeOfBomObject = "VXMBomNavObject_node";
 
 QORBaseUnknown* CreateItself() {
     return new VXMPFNavigModifyMBOMObject();
+}
+
+// The forwarders, and the factories that the dictionary knows them by.
+
+class TIEQORINavigModifyVXMPFNavigModifyMBOMObject final : public QORINavigModifyTie<VXMPFNavigModifyMBOMObject> {
+    using QORINavigModifyTie<VXMPFNavigModifyMBOMObject>::QORINavigModifyTie;
+};
+class TIEQORINavigElementVXMPFNavigModifyMBOMObject final : public QORINavigElementTie<VXMPFNavigModifyMBOMObject> {
+    using QORINavigElementTie<VXMPFNavigModifyMBOMObject>::QORINavigElementTie;
+};
+
+QORBaseUnknown* CreateTIEQORINavigModifyVXMPFNavigModifyMBOMObject(QORBaseUnknown* iImplementation) {
+    return new TIEQORINavigModifyVXMPFNavigModifyMBOMObject(static_cast<VXMPFNavigModifyMBOMObject*>(iImplementation));
+}
+
+QORBaseUnknown* CreateTIEQORINavigElementVXMPFNavigModifyMBOMObject(QORBaseUnknown* iImplementation) {
+    return new TIEQORINavigElementVXMPFNavigModifyMBOMObject(static_cast<VXMPFNavigModifyMBOMObject*>(iImplementation));
 }
 
 const QORFillDictionary navigModify(kClass, IID_QORINavigModify, CreateTIEQORINavigModifyVXMPFNavigModifyMBOMObject);

@@ -8,8 +8,7 @@
 #include "planner/file/SourceText.h"
 #include "planner/model/FastenerSettings.h"
 
-#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
-#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -21,18 +20,6 @@ namespace {
 
 /// Steps above which a trace is big enough to be warned of.
 constexpr std::size_t kLongTrace = 2000;
-
-/// Makes the generator for a root, as a window would; null for an object that is no root.
-std::unique_ptr<VXMBomGenerator> makeGenerator(ModelObject& root) {
-    const QORBaseUnknown_var handle(&root);
-    if (QORISPPActivity_var(handle)) {
-        return std::make_unique<VXMProcessBomGenerator>(handle);
-    }
-    if (root.sort() == Sort::Resource && QORIProduct_var(handle)) {
-        return std::make_unique<VXMResourceBomGenerator>(handle);
-    }
-    return nullptr;
-}
 
 /// The object to analyse, null after saying why there is none.
 ModelObject* chooseRoot(const Plan& plan, const BomOptions& options) {
@@ -75,7 +62,7 @@ struct Computed {
 
 Computed compute(ModelObject& root, const std::vector<const ModelObject*>& steps) {
     const FastenerSettings settings;
-    const std::unique_ptr<VXMBomGenerator> generator = makeGenerator(root);
+    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(&root);
     const DOM_Document document = generator->GetBom(0);
     Computed computed{readBill(document, generator->GetPreviewObjects()), {}};
     computed.remark = remarkOn(*generator, steps, computed.bill.empty());

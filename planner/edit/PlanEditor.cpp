@@ -62,17 +62,19 @@ bool PlanEditor::redo() {
 /// Uses nothing of the editor once it tells: a subscriber may end it.
 void PlanEditor::publish(const ChangeKinds& kinds) const {
     const QORVar<QOREventSubscriber> publisher(plan().process()->GetEventPublisher());
-    std::exception_ptr first;
-    for (const int kind : kinds.numbers()) {
-        try {
-            QORSPPActivityNotificationDispatcher::Dispatch(*publisher.Get(), kind);
-        } catch (...) {
-            first = first ? first : std::current_exception();
+    publisher->InGroup([&] { // so that a view that follows several kinds does it once
+        std::exception_ptr first;
+        for (const int kind : kinds.numbers()) {
+            try {
+                QORSPPActivityNotificationDispatcher::Dispatch(*publisher.Get(), kind);
+            } catch (...) {
+                first = first ? first : std::current_exception();
+            }
         }
-    }
-    if (first) {
-        std::rethrow_exception(first);
-    }
+        if (first) {
+            std::rethrow_exception(first);
+        }
+    });
 }
 
 namespace {

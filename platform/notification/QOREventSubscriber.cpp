@@ -7,10 +7,32 @@
 #include "QORPlatform/framework/QORVar.h"
 
 #include <exception>
+#include <utility>
 
 namespace {
 
 long nextHandle = 1;
+
+/// Lets several calls run whatever they raise, and raises the first of it.
+class FirstError {
+public:
+    template <class Call>
+    void During(const Call& iCall) {
+        try {
+            iCall();
+        } catch (...) {
+            _first = _first ? _first : std::current_exception();
+        }
+    }
+    void Raise() const {
+        if (_first) {
+            std::rethrow_exception(_first);
+        }
+    }
+
+private:
+    std::exception_ptr _first;
+};
 
 } // namespace
 
@@ -78,18 +100,46 @@ void QOREventSubscriber::Publish(const char* iEvent, QORNotification* iNotificat
     // Name and notification are held here: the one who gave them may go while subscribers are told.
     const std::string event(iEvent ? iEvent : "");
     const QORVar<QORNotification> notification(iNotification);
-    std::exception_ptr first;
+    FirstError first;
     for (const auto& [handle, subscription] : std::map(_subscriptions)) {
-        if (!subscription->holds || subscription->event != event) {
-            continue;
-        }
-        try {
-            subscription->call(event.c_str(), this, iNotification, handle);
-        } catch (...) {
-            first = first ? first : std::current_exception();
+        if (subscription->holds && subscription->event == event) {
+            first.During(
+                [&, number = handle, &call = subscription->call] { call(event.c_str(), this, iNotification, number); });
         }
     }
-    if (first) {
-        std::rethrow_exception(first);
+    first.Raise();
+}
+
+void QOREventSubscriber::EndGroup() {
+    if (_groups == 0 || --_groups > 0) {
+        return;
+    }
+    FirstError first;
+    for (const DelayedCall& delayed : std::exchange(_afterGroup, {})) {
+        if (!delayed.subscriber.expired()) {
+            first.During(delayed.call);
+        }
+    }
+    first.Raise();
+}
+
+void QOREventSubscriber::InGroup(const std::function<void()>& iDeeds) {
+    const std::weak_ptr<const bool> self = _life;
+    FirstError first;
+    BeginGroup();
+    first.During(iDeeds);
+    first.During([&] {
+        if (!self.expired()) {
+            EndGroup();
+        }
+    });
+    first.Raise();
+}
+
+void QOREventSubscriber::CallAfterGroup(QOREventSubscriber& iSubscriber, std::function<void()> iCall) {
+    if (IsInGroup()) {
+        _afterGroup.push_back({iSubscriber._life, std::move(iCall)});
+    } else {
+        iCall();
     }
 }

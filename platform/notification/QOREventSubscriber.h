@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 class QOREventSubscriber;
 
@@ -42,6 +43,21 @@ public:
     /// the first exception is raised again at the end. With the end of this object the telling ends too.
     void Publish(const char* iEvent, QORNotification* iNotification);
 
+    /// Called on a publisher: begins and ends a group of notifications that belong together, as those of one edit do;
+    /// groups may stand in groups. Each is delivered at once all the same; see CallAfterGroup.
+    void BeginGroup() { ++_groups; }
+    void EndGroup();
+    bool IsInGroup() const { return _groups > 0; }
+
+    /// Runs iDeeds in a group of this publisher. What they raise comes out when the group has ended, and goes before
+    /// what its end raises.
+    void InGroup(const std::function<void()>& iDeeds);
+
+    /// Called on a publisher, for a subscriber with work to do once for all notifications of a group: runs iCall when
+    /// the outermost group ends, at once when there is none, and never when one of the two has ended by then. When
+    /// several raise, all run, and the first exception is raised again at the end.
+    void CallAfterGroup(QOREventSubscriber& iSubscriber, std::function<void()> iCall);
+
     /// Number of subscriptions to this publisher.
     int GetSubscriptionCount() const { return static_cast<int>(_subscriptions.size()); }
 
@@ -54,11 +70,18 @@ protected:
 
 private:
     struct Subscription;
+    struct DelayedCall {
+        std::weak_ptr<const bool> subscriber;
+        std::function<void()> call;
+    };
 
     bool Drop(long iHandle);
 
     std::map<long, std::shared_ptr<Subscription>> _subscriptions; // of others to this one, oldest first
     std::map<long, QOREventSubscriber*> _publishers;              // that this one is subscribed to
+    int _groups = 0;                                              // that are open
+    std::vector<DelayedCall> _afterGroup;
+    std::shared_ptr<const bool> _life = std::make_shared<const bool>(true);
 };
 
 /// Subscribes a member function of iSubscriber to an event of iPublisher. The function gets the event's name, the

@@ -148,4 +148,30 @@ TEST_F(Publishing, SurvivesTheEndOfWhoTellsHimself) {
     EXPECT_EQ(told_, "S");
 }
 
+TEST_F(Publishing, RunsDelayedCallsOnceTheOutermostGroupEnds) {
+    const auto delay = [this](Listener& listener, char letter) {
+        publisher_->CallAfterGroup(listener, [this, letter] { told_ += letter; });
+    };
+    delay(*a_, '1');
+    publisher_->InGroup([&] {
+        delay(*a_, '2');
+        delay(*b_, '3');
+        publisher_->InGroup([&] { delay(*c_, '4'); });
+        publisher_->Publish("change", nullptr);
+        b_.reset();
+    });
+    EXPECT_EQ(std::exchange(told_, ""), "1ABC24");
+    publisher_->BeginGroup();
+    publisher_->CallAfterGroup(*a_, [] { throw std::runtime_error("first"); });
+    delay(*a_, '5');
+    EXPECT_THROW(publisher_->EndGroup(), std::runtime_error);
+    publisher_->EndGroup();
+    EXPECT_FALSE(publisher_->IsInGroup());
+    publisher_->InGroup([&] {
+        delay(*a_, '6');
+        publisher_.reset();
+    });
+    EXPECT_EQ(told_, "5");
+}
+
 } // namespace

@@ -8,11 +8,11 @@
 #include "QORPlatform/navigation/QORNavigController.h"
 #include "QORPlatform/visualization/QORViewer.h"
 #include "QORPlatform/visualization/QORVisManager.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "VXMBomInfrastructure/model/QORIProduct.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMBomRows.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewerState.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 #include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
-#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
-#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
 
 #include <algorithm>
 
@@ -22,6 +22,14 @@ constexpr const char* kSource = "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabB
 constexpr int kWidth = 150;
 constexpr int kHeight = 200;
 constexpr int kPixelsPerCharacter = 10;
+
+QORViewer* MakeViewer(QORDlgFrame& ioFrame, bool iInSpace) {
+    if (iInSpace) {
+        return new QORNavigation3DViewer(&ioFrame, " 3D Bom Viewer", kQORViewerNavigated, kWidth, kHeight,
+                                         kQORViewerScene);
+    }
+    return new QORNavigation2DViewer(&ioFrame, " Bom Viewer", kQORViewerNavigated, kWidth, kHeight, kQORViewerPlain);
+}
 
 /// A step of the window's end that asks the model: one that raises mustn't keep the rest from ending.
 template <class Step>
@@ -37,31 +45,35 @@ void Regardless(Step iStep) {
 
 VXMFabBomViewer::VXMFabBomViewer(const QORString& iName, QORFrmEditor* iEditor, QORBaseUnknown_var& iRoot,
                                  int iDisplayMode)
-    : QORFrmWindow(iName, iEditor), _windowName(static_cast<const char*>(iName)), _iDisplayMode(iDisplayMode) {
+    : QORFrmWindow(iName, iEditor), _state(std::make_unique<VXMFabBomViewerState>()) {
     const VXMTraceMarks marks("--> VXMFabBomViewer::Constructor", "<-- VXMFabBomViewer::Constructor");
-    if (_iDisplayMode < kTreeOnly || _iDisplayMode > kTreeAndItems) {
+    _state->_windowName = static_cast<const char*>(iName);
+    _state->_iDisplayMode = iDisplayMode;
+    if (iDisplayMode < kTreeOnly || iDisplayMode > kTreeAndItems) {
         QORFatalError("AssertionFailed:0 < _iDisplayMode && 4 > _iDisplayMode", kSource);
     }
-    _windowFrame = GetViewerFrame();
-    if (!_windowFrame) {
+    _state->_windowFrame = GetViewerFrame();
+    if (!_state->_windowFrame) {
         QORFatalError("AssertionFailed:NULL != _windowFrame", kSource);
     }
-    MakeViewer();
-    MakeGenerator(iRoot);
-    const QORINavigateObjectPPR_var treeRoot(_generator ? MakeTreeObject(_generator->GetBom(0)) : nullptr);
-    _navigBox = VXMFabBomViewer::CreateNavigBox(_viewer, iEditor, treeRoot, "Bom Navig", 1, kQORDepthUnlimited, kWidth,
-                                                kHeight, 0);
-    SetViewerSelectable(_viewer);
-    if (HasItems()) {
-        _visManager = QORVisManager::GetVisManager();
-        _viewpoint = _viewer->GetMain3DViewpoint();
-        if (!_viewpoint) {
+    _state->_viewer = MakeViewer(*_state->_windowFrame, _state->HasItems());
+    _state->_generator = VXMMakeBomGenerator(iRoot);
+    const QORINavigateObjectPPR_var treeRoot(
+        _state->_generator ? VXMFabBomViewerState::MakeTreeObject(_state->_generator->GetBom(0)) : nullptr);
+    _state->_navigBox = VXMFabBomViewer::CreateNavigBox(_state->_viewer, iEditor, treeRoot, "Bom Navig", 1,
+                                                        kQORDepthUnlimited, kWidth, kHeight, 0);
+    _state->TellRows();
+    SetViewerSelectable(_state->_viewer);
+    if (_state->HasItems()) {
+        _state->_visManager = QORVisManager::GetVisManager();
+        _state->_viewpoint = _state->_viewer->GetMain3DViewpoint();
+        if (!_state->_viewpoint) {
             QORFatalError("AssertionFailed:NULL != _viewpoint", kSource);
         }
         SetViewpoint();
         MBOMItems3DView();
     }
-    _windowFrame->Attach4Sides(_viewer);
+    _state->_windowFrame->Attach4Sides(_state->_viewer);
     AddAnalyseNotificationCB(this, GetWindSizeNotification(), &VXMFabBomViewer::OnResize, nullptr);
     AddCallBacks();
     Complete();
@@ -69,22 +81,22 @@ VXMFabBomViewer::VXMFabBomViewer(const QORString& iName, QORFrmEditor* iEditor, 
 
 VXMFabBomViewer::~VXMFabBomViewer() {
     const VXMTraceMarks marks("--> VXMFabBomViewer Destructor ", "<-- VXMFabBomViewer Destructor ");
-    Regardless([this] { RemoveBOMItems(_previewObjects); });
+    Regardless([this] { RemoveBOMItems(_state->_previewObjects); });
     RemoveAnalyseNotificationCB(this, GetWindSizeNotification(), nullptr);
-    _navigBox = nullptr;
+    _state->_navigBox = nullptr;
     Regardless([this] { RemoveCallbacks(); });
-    if (_windowFrame) {
-        _windowFrame->ResetAttachment(_viewer);
-        _windowFrame = nullptr;
+    if (_state->_windowFrame) {
+        _state->_windowFrame->ResetAttachment(_state->_viewer);
+        _state->_windowFrame = nullptr;
     }
-    _viewpoint = nullptr;
-    if (_viewer) {
-        _viewer->RequestDelayedDestruction();
-        _viewer = nullptr;
+    _state->_viewpoint = nullptr;
+    if (_state->_viewer) {
+        _state->_viewer->RequestDelayedDestruction();
+        _state->_viewer = nullptr;
     }
-    _previewObjects.RemoveAll();
-    _visManager = nullptr;
-    _generator.reset();
+    _state->_previewObjects.RemoveAll();
+    _state->_visManager = nullptr;
+    _state->_generator.reset();
 }
 
 QORMetaClass* VXMFabBomViewer::ClassMeta() {
@@ -99,28 +111,27 @@ const char* VXMFabBomViewer::GetResourceFilename(int iLevel) {
     return iLevel <= 0 ? "QORFrmLayout" : QORDialog::GetResourceFilename(iLevel - 1);
 }
 
-void VXMFabBomViewer::MakeViewer() {
-    if (HasItems()) {
-        _viewer = new QORNavigation3DViewer(_windowFrame, " 3D Bom Viewer", kQORViewerNavigated, kWidth, kHeight,
-                                            kQORViewerScene);
-    } else {
-        _viewer = new QORNavigation2DViewer(_windowFrame, " Bom Viewer", kQORViewerNavigated, kWidth, kHeight,
-                                            kQORViewerPlain);
-    }
-}
-
-/// An object that is both an activity and a product counts as an activity; on anything else there is no generator.
-void VXMFabBomViewer::MakeGenerator(const QORBaseUnknown_var& iRoot) {
-    if (QORISPPActivity_var(iRoot)) {
-        _generator = std::make_unique<VXMProcessBomGenerator>(iRoot);
-    } else if (QORIProduct_var(iRoot)) {
-        _generator = std::make_unique<VXMResourceBomGenerator>(iRoot);
-    }
-}
-
-QORBaseUnknown_var VXMFabBomViewer::MakeTreeObject(const DOM_Document& iDocument) {
+QORBaseUnknown_var VXMFabBomViewerState::MakeTreeObject(const DOM_Document& iDocument) {
     DOM_Element element = iDocument.getDocumentElement();
     return QORBaseUnknown_var::Adopt(new VXMBomNavObject(element));
+}
+
+void VXMFabBomViewerState::TellRows() const {
+    if (_navigBox && _generator && HasTree()) {
+        _navigBox->SetRows(std::make_shared<VXMBomRows>(_generator->GetBom(0), _generator->GetPreviewObjects()));
+    }
+}
+
+VXMBomGenerator* VXMFabBomViewer::GetGenerator() const {
+    return _state->_generator.get();
+}
+
+QORNavigBox* VXMFabBomViewer::GetNavigBox() const {
+    return _state->_navigBox;
+}
+
+bool VXMFabBomViewer::IsOutOfDate() const {
+    return _state->_isOutOfDate;
 }
 
 void VXMFabBomViewer::GetDisplayName(QORUnicodeString& oDisplayName) {
@@ -128,20 +139,21 @@ void VXMFabBomViewer::GetDisplayName(QORUnicodeString& oDisplayName) {
     DRECT rect;
     GetRectDimensions(rect);
     int width = rect.dx;
-    if (width == 0 && _viewer) {
+    if (width == 0 && _state->_viewer) {
         float graphicWidth = 0;
         float graphicHeight = 0;
-        _viewer->GetGraphicSize(graphicWidth, graphicHeight);
+        _state->_viewer->GetGraphicSize(graphicWidth, graphicHeight);
         width = static_cast<int>(graphicWidth);
     }
     width = std::max(width, 0);
-    const int length = _windowName.GetLengthInChar();
+    const int length = _state->_windowName.GetLengthInChar();
     if (length * kPixelsPerCharacter <= width) {
-        oDisplayName = _windowName;
+        oDisplayName = _state->_windowName;
         return;
     }
     const int shown = width / (2 * kPixelsPerCharacter); // at each end
-    oDisplayName = _windowName.SubString(1, shown) + "..." + _windowName.SubString(length - shown + 1, shown);
+    oDisplayName =
+        _state->_windowName.SubString(1, shown) + "..." + _state->_windowName.SubString(length - shown + 1, shown);
 }
 
 void VXMFabBomViewer::OnResize(QORCommand*, QORNotification*, void*) {

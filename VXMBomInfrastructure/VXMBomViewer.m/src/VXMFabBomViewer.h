@@ -2,23 +2,41 @@
 
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 #include "QORPlatform/frame/QORFrmWindow.h"
-#include "QORPlatform/text/QORUnicodeString.h"
 #include "VXMBomInfrastructure/VXMExport.h"
 #include "VXMBomInfrastructure/model/QORISPPActivity.h"
 
 #include <memory>
 
-class DOM_Document;
 class QORNavigBox;
-class QORVisManager;
 class VXMBomGenerator;
+struct VXMFabBomViewerState;
 
 /// The window of a BOM: a tree of the document and, by the display mode, a view of its items in space. It follows the
 /// process plan while it is open.
 ///
+/// What it needs of the host:
+/// - An editor (QORFrmEditor), so that the tree has its settings. Document and selection sets are those of the editor
+///   that is the current one at the time, which need not be the window's: make the window's editor the current one
+///   before the window is made, and whenever a person activates it (ReportActivate).
+/// - A document that is a kind of "QORProcess" and answers QORInit, whose container of that interface's name answers
+///   QORISPPProcessContainer. The first entry there answers QORISPPActivityRoot and QORISPPActivity: the root activity.
+/// - A publisher, which the root activity gives through QORISPPActivityModificationEvents. The window follows
+///   notifications of class "QORSPPActivityNotification" (see QORSPPActivityNotificationDispatcher), whatever root it
+///   stands on. The kinds 3 (an activity came), 17 (one went or moved), 18 and 27 (a link came, went), 29 (items or
+///   outputs of an activity or a resource are others) and 39 (an item itself is another) rebuild the bill; after one of
+///   any kind the objects of the bill are compared with those shown in space, by their number alone.
+/// - Items that answer QORI3DGeoVisu where they are to be seen in space.
+/// Without document or publisher the window stands as it was built.
+///
+/// Each notification outside a group rebuilds at once; those of a group (QOREventSubscriber::BeginGroup) rebuild once
+/// together, when it ends. A change that is told while the window rebuilds, by a model that publishes when it is asked,
+/// is followed by one more rebuild after that, and by no third. Rows that stand for the same stay opened and selected.
+///
 /// Whoever makes the window lets it go (see QORCommand); editor and platform objects outlive it or tell that they
-/// don't. All operations run on the thread of the dialog loop. What the model raises passes through; while the window
-/// ends it is noted in the trace, and the window goes on ending.
+/// don't. All operations run on the thread of the dialog loop. What the model raises passes through, and the window
+/// goes on showing the last bill; while the window ends it is noted in the trace, and the window goes on ending. A
+/// rebuild that a person cancels (see QORProgress) leaves the last bill too, and nothing passes through. A window that
+/// was closed rebuilds no more.
 class VXM_EXPORT VXMFabBomViewer : public QORFrmWindow {
 public:
     /// What the window shows: mode 1 the tree, 2 the items, 3 both.
@@ -44,7 +62,14 @@ public:
                                         int iExtensionMode);
 
     /// The generator of the window's BOM, null on a root that there is none for. It stays the window's.
-    VXMBomGenerator* GetGenerator() const { return _generator.get(); }
+    VXMBomGenerator* GetGenerator() const;
+
+    /// The tree box, null when it couldn't be set up. Its rows lead to the objects of the model behind them and back,
+    /// see QORNavigBox::GetRows.
+    QORNavigBox* GetNavigBox() const;
+
+    /// Whether the last rebuild was cancelled or raised an error: the window shows an earlier bill.
+    bool IsOutOfDate() const;
 
     // Title.
 
@@ -96,25 +121,5 @@ public:
     void ViewerIsDeleted(QORCommand* iSender, QORNotification* iNotification, void* iClientData);
 
 private:
-    void MakeViewer();
-    void MakeGenerator(const QORBaseUnknown_var& iRoot);
-    static QORBaseUnknown_var MakeTreeObject(const DOM_Document& iDocument);
-    bool HasTree() const { return (_iDisplayMode & 1) != 0; }
-    bool HasItems() const { return _iDisplayMode >= kItemsOnly; }
-    bool ApplySettings(QORNavigBox& ioBox, int iAllowDuplicates, int iDepth, int iExtensionMode);
-    QORVar<QOREventSubscriber> FindPublisher();
-    template <class Act>
-    void ForEachShowable(const QORListValQORBaseUnknown_var& iObjects, Act iAct);
-
-    QORViewer* _viewer = nullptr;
-    QORDlgFrame* _windowFrame = nullptr;
-    QORViewpoint* _viewpoint = nullptr;
-    QORUnicodeString _windowName;
-    std::unique_ptr<VXMBomGenerator> _generator;
-    long _callbackHandle = -1;
-    QORNavigBox* _navigBox = nullptr;
-    QORListValQORBaseUnknown_var _previewObjects;
-    QORVisManager* _visManager = nullptr;
-    int _iDisplayMode;
-    QORVar<QOREventSubscriber> _publisher; // of the subscription, whatever document is current by now
+    std::unique_ptr<VXMFabBomViewerState> _state;
 };

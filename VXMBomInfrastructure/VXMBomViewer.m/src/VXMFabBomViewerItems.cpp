@@ -4,14 +4,15 @@
 #include "QORPlatform/visualization/QORI3DGeoVisu.h"
 #include "QORPlatform/visualization/QORPathElement.h"
 #include "QORPlatform/visualization/QORVisManager.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewerState.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
+
+namespace {
 
 /// Calls iAct(path, interfaces) for each object that is an item and can be seen, as a path of one.
 template <class Act>
-void VXMFabBomViewer::ForEachShowable(const QORListValQORBaseUnknown_var& iObjects, Act iAct) {
+void ForEachShowable(const VXMFabBomViewerState& iState, const QORListValQORBaseUnknown_var& iObjects, Act iAct) {
     QORListInterfaceID interfaces;
     interfaces.Append(&IID_QORI3DGeoVisu);
     for (const QORBaseUnknown_var& object : iObjects) {
@@ -21,48 +22,50 @@ void VXMFabBomViewer::ForEachShowable(const QORListValQORBaseUnknown_var& iObjec
             continue;
         }
         const auto path = QORVar<QORPathElement>::Adopt(new QORPathElement(visible.Get()));
-        if (_visManager && _viewer && _viewpoint) {
+        if (iState._visManager && iState._viewer && iState._viewpoint) {
             iAct(path.Get(), interfaces);
         }
     }
 }
 
+} // namespace
+
 void VXMFabBomViewer::MBOMItems3DView() {
     const VXMTraceMarks marks("--> VXMFabBomViewer::MBOMItems3DView", "<-- VXMFabBomViewer::MBOMItems3DView");
-    if (!_generator) {
+    if (!_state->_generator) {
         return;
     }
-    _previewObjects = _generator->GetPreviewObjects();
-    if (_previewObjects.Size() > 0) {
-        Visualize(_previewObjects);
+    _state->_previewObjects = _state->_generator->GetPreviewObjects();
+    if (_state->_previewObjects.Size() > 0) {
+        Visualize(_state->_previewObjects);
     }
 }
 
 void VXMFabBomViewer::Visualize(const QORListValQORBaseUnknown_var& iObjects) {
-    ForEachShowable(iObjects, [this](const QORPathElement* iPath, const QORListInterfaceID& iInterfaces) {
-        _visManager->AttachTo(iPath, _viewpoint, iInterfaces, _viewer, 0, 0, 0, 0, 0);
+    ForEachShowable(*_state, iObjects, [this](const QORPathElement* iPath, const QORListInterfaceID& iInterfaces) {
+        _state->_visManager->AttachTo(iPath, _state->_viewpoint, iInterfaces, _state->_viewer, 0, 0, 0, 0, 0);
     });
     QORFrmEditor* const editor = QORFrmEditor::GetCurrentEditor();
-    if (editor && _visManager && _viewpoint) {
-        if (_visManager->AttachHSOTo(editor->GetHSO(), _viewpoint) < 0) {
+    if (editor && _state->_visManager && _state->_viewpoint) {
+        if (_state->_visManager->AttachHSOTo(editor->GetHSO(), _state->_viewpoint) < 0) {
             VXMBomViewerTrace.TraPutLN("Failed to attach HSO to viewpoint for BOMViewer");
         }
-        if (_visManager->AttachPSOTo(editor->GetPSO(), _viewpoint) < 0) {
+        if (_state->_visManager->AttachPSOTo(editor->GetPSO(), _state->_viewpoint) < 0) {
             VXMBomViewerTrace.TraPutLN("Failed to attach PSO to viewpoint for BOMViewer");
         }
     }
-    if (_viewer) {
-        _viewer->Draw();
+    if (_state->_viewer) {
+        _state->_viewer->Draw();
     }
 }
 
 void VXMFabBomViewer::RemoveBOMItems(const QORListValQORBaseUnknown_var iObjects) {
-    ForEachShowable(iObjects, [this](const QORPathElement* iPath, const QORListInterfaceID& iInterfaces) {
-        _visManager->DetachPSOFrom(_viewpoint);
-        _visManager->DetachHSOFrom(_viewpoint);
-        _visManager->DetachFrom(iPath, _viewpoint, iInterfaces, 0);
+    ForEachShowable(*_state, iObjects, [this](const QORPathElement* iPath, const QORListInterfaceID& iInterfaces) {
+        _state->_visManager->DetachPSOFrom(_state->_viewpoint);
+        _state->_visManager->DetachHSOFrom(_state->_viewpoint);
+        _state->_visManager->DetachFrom(iPath, _state->_viewpoint, iInterfaces, 0);
     });
-    if (_viewer) {
-        _viewer->Draw();
+    if (_state->_viewer) {
+        _state->_viewer->Draw();
     }
 }

@@ -5,9 +5,8 @@
 #include "QORPlatform/navigation/QORTvwTreeSettingCtrl.h"
 #include "QORPlatform/visualization/QORViewpoint.h"
 #include "QORPlatform/visualization/QORViewpointEditor.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewerState.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 
 namespace {
 
@@ -24,37 +23,9 @@ void AddGraphViewpoint(QORViewer& ioViewer) {
     }
 }
 
-} // namespace
-
-QORNavigBox* VXMFabBomViewer::CreateNavigBox(QORViewer* iViewer, QORFrmEditor* iEditor, QORBaseUnknown_var iRoot,
-                                             const char* iName, int iAllowDuplicates, int iDepth, int iWidth,
-                                             int iHeight, int iExtensionMode) {
-    const VXMTraceMarks marks("--> VXMFabBomViewer::CreateNavigBox", "<-- VXMFabBomViewer::CreateNavigBox");
-    if (iViewer) {
-        AddGraphViewpoint(*iViewer);
-    }
-    auto* const frame = new QORDlgFrame(GetViewerFrame(), "FrmWindowTag", kQORFrameTag);
-    auto* const box =
-        new QORNavigBox(frame, iName, iEditor, kQORGraphTree, "Bom ID", iWidth, iHeight, iViewer, nullptr);
-    frame->Attach4Sides(box->GetBoxFrame());
-    if (!iRoot || !QORINavigateObject_var(iRoot)) {
-        return box;
-    }
-    if (!ApplySettings(*box, iAllowDuplicates, iDepth, iExtensionMode)) {
-        return nullptr;
-    }
-    if (HasTree()) {
-        box->AddRoot(iRoot);
-    }
-    if (QORGraphViewer* const graph = box->GetGraphViewer()) {
-        graph->setAnchoredViewpoint(1);
-    }
-    return box;
-}
-
 /// Settings of the navigation and of the tree; false when the tree settings can't be had. A box without controller
 /// takes none of them.
-bool VXMFabBomViewer::ApplySettings(QORNavigBox& ioBox, int iAllowDuplicates, int iDepth, int iExtensionMode) {
+bool ApplySettings(QORNavigBox& ioBox, int iAllowDuplicates, int iDepth, int iExtensionMode) {
     QORNavigController* const controller = ioBox.GetController();
     if (!controller) {
         return true;
@@ -76,4 +47,32 @@ bool VXMFabBomViewer::ApplySettings(QORNavigBox& ioBox, int iAllowDuplicates, in
         settings->SetTreeFlag(kQORTreeLines);
     }
     return true;
+}
+
+} // namespace
+
+QORNavigBox* VXMFabBomViewer::CreateNavigBox(QORViewer* iViewer, QORFrmEditor* iEditor, QORBaseUnknown_var iRoot,
+                                             const char* iName, int iAllowDuplicates, int iDepth, int iWidth,
+                                             int iHeight, int iExtensionMode) {
+    const VXMTraceMarks marks("--> VXMFabBomViewer::CreateNavigBox", "<-- VXMFabBomViewer::CreateNavigBox");
+    if (iViewer) {
+        AddGraphViewpoint(*iViewer);
+    }
+    auto* const frame = new QORDlgFrame(GetViewerFrame(), "FrmWindowTag", kQORFrameTag);
+    auto* const box =
+        new QORNavigBox(frame, iName, iEditor, kQORGraphTree, "Bom ID", iWidth, iHeight, iViewer, nullptr);
+    frame->Attach4Sides(box->GetBoxFrame());
+    if (!iRoot || !QORINavigateObject_var(iRoot)) {
+        return box;
+    }
+    if (!ApplySettings(*box, iAllowDuplicates, iDepth, iExtensionMode)) {
+        return nullptr;
+    }
+    if (_state->HasTree()) {
+        box->AddRoot(iRoot);
+    }
+    if (QORGraphViewer* const graph = box->GetGraphViewer()) {
+        graph->setAnchoredViewpoint(1);
+    }
+    return box;
 }

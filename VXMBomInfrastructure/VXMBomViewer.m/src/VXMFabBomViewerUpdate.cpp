@@ -4,10 +4,10 @@
 #include "QORPlatform/frame/QORInit.h"
 #include "QORPlatform/navigation/QORNavigBox.h"
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
+#include "QORPlatform/toolkit/QORProgress.h"
 #include "QORPlatform/visualization/QORIRedrawEvent.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
-#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMTraceMarks.h"
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewerState.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 #include "VXMBomInfrastructure/model/QORISPPActivityModificationEvents.h"
 #include "VXMBomInfrastructure/model/QORISPPActivityRoot.h"
 #include "VXMBomInfrastructure/model/QORISPPControlFlow.h"
@@ -17,7 +17,9 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -73,33 +75,108 @@ void VXMFabBomViewer::GetRootActivity(QORISPPActivity** oActivity) {
     }
 }
 
+namespace {
+
 /// The publisher of the root activity that is found now, a null handle where there is none.
-QORVar<QOREventSubscriber> VXMFabBomViewer::FindPublisher() {
+QORVar<QOREventSubscriber> FindPublisher(VXMFabBomViewer& ioWindow) {
     QORISPPActivity* found = nullptr;
-    GetRootActivity(&found);
+    ioWindow.GetRootActivity(&found);
     const auto activity = QORISPPActivity_var::Adopt(found);
     const QORISPPActivityModificationEvents_var events(activity);
     return events ? QORVar<QOREventSubscriber>(events->GetEventPublisher()) : QORVar<QOREventSubscriber>();
 }
 
+/// Builds the BOM anew and gives the box its new root; the root of the last BOM again where that raises an error, which
+/// then comes out. A person's wish to cancel is no error.
+void Rebuild(VXMFabBomViewerState& ioState) {
+    QORNavigBox& box = *ioState._navigBox;
+    box.BeginRefill();
+    box.RemoveAllRoots();
+    std::exception_ptr raised;
+    ioState._isRebuilding = true;
+    ioState._isOutOfDate = true;
+    try {
+        ioState._generator->GetBom(1);
+        ioState._isOutOfDate = false;
+    } catch (const QORCancelled&) {
+        VXMBomViewerTrace.TraPutLN("A rebuild of a BOMViewer was cancelled");
+    } catch (...) {
+        raised = std::current_exception();
+    }
+    ioState._isRebuilding = false;
+    if (ioState.HasTree()) {
+        ioState.TellRows();
+        box.AddRoot(VXMFabBomViewerState::MakeTreeObject(ioState._generator->GetBom(0)));
+    }
+    box.EndRefill();
+    if (raised) {
+        std::rethrow_exception(raised);
+    }
+}
+
+/// Brings what is shown in space in line with the objects of the BOM, when their number has changed.
+void CompareItems(VXMFabBomViewer& ioWindow, VXMFabBomViewerState& ioState) {
+    if (!ioState._generator) {
+        return;
+    }
+    const QORListValQORBaseUnknown_var objects = ioState._generator->GetPreviewObjects();
+    if (objects.Size() == ioState._previewObjects.Size()) {
+        return;
+    }
+    const QORListValQORBaseUnknown_var gone = Missing(ioState._previewObjects, objects);
+    if (gone.Size() > 0) {
+        ioWindow.RemoveBOMItems(gone);
+    }
+    if (objects.Size() > 0) {
+        ioWindow.Visualize(objects);
+    }
+    ioState._previewObjects = objects;
+}
+
+/// Follows changes of the plan, of which one at least asks for a rebuild or none.
+void Follow(VXMFabBomViewer& ioWindow, VXMFabBomViewerState& ioState, bool iRebuild) {
+    if (ioWindow.IsClosed()) {
+        return;
+    }
+    const QORVar<QORFrmWindow> self(&ioWindow); // see UpdateBom
+    if (iRebuild) {
+        ioWindow.UpdateBom();
+    }
+    CompareItems(ioWindow, ioState);
+}
+
+/// Follows all changes of a group when it ends.
+void FollowAfterGroup(VXMFabBomViewer& ioWindow, VXMFabBomViewerState& ioState, bool iRebuild) {
+    const bool isFirst = !ioState._afterGroup.compare;
+    ioState._afterGroup.Add(iRebuild);
+    if (isFirst) {
+        ioState._publisher->CallAfterGroup(ioWindow, [&ioWindow, &ioState] {
+            Follow(ioWindow, ioState, std::exchange(ioState._afterGroup, {}).rebuild);
+        });
+    }
+}
+
+} // namespace
+
 void VXMFabBomViewer::AddCallBacks() {
     const VXMTraceMarks marks("--> VXMFabBomViewer::AddCallBacks", "<-- VXMFabBomViewer::AddCallBacks");
-    _publisher = FindPublisher();
-    if (_publisher) {
-        _callbackHandle =
-            AddCallback(this, _publisher.Get(), QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE(),
-                        &VXMFabBomViewer::OnActivityCallback, nullptr);
+    _state->_publisher = FindPublisher(*this);
+    if (_state->_publisher) {
+        _state->_callbackHandle = AddCallback(this, _state->_publisher.Get(),
+                                              QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE(),
+                                              &VXMFabBomViewer::OnActivityCallback, nullptr);
     }
 }
 
 unsigned char VXMFabBomViewer::RemoveCallbacks() {
     const VXMTraceMarks marks("--> VXMFabBomViewer::RemoveBacks", "<-- VXMFabBomViewer::RemoveBacks");
     // Another document may be current by now, so the publisher of the subscription itself goes first.
-    const QORVar<QOREventSubscriber> publisher = _publisher ? std::move(_publisher) : FindPublisher();
-    if (publisher && _callbackHandle != kQORNoCallback) {
-        publisher->RemoveCallback(publisher.Get(), _callbackHandle);
+    const QORVar<QOREventSubscriber> publisher =
+        _state->_publisher ? std::move(_state->_publisher) : FindPublisher(*this);
+    if (publisher && _state->_callbackHandle != kQORNoCallback) {
+        publisher->RemoveCallback(publisher.Get(), _state->_callbackHandle);
     }
-    _callbackHandle = kQORNoCallback;
+    _state->_callbackHandle = kQORNoCallback;
     return 1;
 }
 
@@ -108,44 +185,40 @@ void VXMFabBomViewer::OnActivityCallback(const char*, void*, QORNotification* iN
     if (!iNotification || iNotification->IsAKindOf("QORSPPActivityNotification") == 0 || !iNotification->GetImpl(0)) {
         return;
     }
-    const QORVar<QORFrmWindow> self(this); // see UpdateBom
-    if (Rebuilds(static_cast<QORSPPActivityNotification*>(iNotification->GetImpl(0))->GetNotificationKind())) {
-        UpdateBom();
+    const int kind = static_cast<QORSPPActivityNotification*>(iNotification->GetImpl(0))->GetNotificationKind();
+    if (_state->_isRebuilding) {
+        _state->_meanwhile.Add(Rebuilds(kind));
+    } else if (_state->_publisher && _state->_publisher->IsInGroup()) {
+        FollowAfterGroup(*this, *_state, Rebuilds(kind));
+    } else {
+        Follow(*this, *_state, Rebuilds(kind));
     }
-    if (!_generator) {
-        return;
-    }
-    const QORListValQORBaseUnknown_var objects = _generator->GetPreviewObjects();
-    if (objects.Size() == _previewObjects.Size()) {
-        return;
-    }
-    const QORListValQORBaseUnknown_var gone = Missing(_previewObjects, objects);
-    if (gone.Size() > 0) {
-        RemoveBOMItems(gone);
-    }
-    if (objects.Size() > 0) {
-        Visualize(objects);
-    }
-    _previewObjects = objects;
 }
 
 void VXMFabBomViewer::UpdateBom() {
     const VXMTraceMarks marks("--> VXMFabBomViewer::UpdateBom", "<-- VXMFabBomViewer::UpdateBom");
-    if (!_navigBox || !_generator) {
+    if (!_state->_navigBox || !_state->_generator || IsClosed()) {
+        return;
+    }
+    if (_state->_isRebuilding) {
+        _state->_meanwhile.rebuild = true;
         return;
     }
     // Whoever is told of the emptied or refilled tree may close the window: it stays until this call is over.
     const QORVar<QORFrmWindow> self(this);
-    _navigBox->RemoveAllRoots();
-    const DOM_Document document = _generator->GetBom(1);
-    if (HasTree()) {
-        _navigBox->AddRoot(MakeTreeObject(document));
+    _state->_meanwhile = {};
+    Rebuild(*_state);
+    if (std::exchange(_state->_meanwhile.rebuild, false)) {
+        Rebuild(*_state);
     }
-    if (const QORIRedrawEvent_var redraw{_viewer}) {
+    if (const QORIRedrawEvent_var redraw{_state->_viewer}) {
         redraw->Redraw();
     }
-    if (_viewer) {
-        _viewer->Draw();
+    if (_state->_viewer) {
+        _state->_viewer->Draw();
+    }
+    if (_state->_meanwhile.compare) {
+        CompareItems(*this, *_state);
     }
 }
 

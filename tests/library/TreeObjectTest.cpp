@@ -1,6 +1,6 @@
 // What the navigator sees of a bill: tree objects over the document, and the extension of their nodes.
 
-#include "planner/edit/WindowDesk.h"
+#include "library/WindowDesk.h"
 #include "support/BomText.h"
 
 #include "QORPlatform/framework/QORMetaClass.h"

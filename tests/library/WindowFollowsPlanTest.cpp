@@ -1,6 +1,6 @@
 // The window on a plan that is edited, as a person sees it.
 
-#include "planner/edit/WindowDesk.h"
+#include "library/WindowDesk.h"
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
@@ -312,11 +312,13 @@ TEST(WindowOnARaisingModel, PassesTheErrorOnAndIsRightTheNextTime) {
     const int callsOfARebuild = world.calls.count;
     world.calls.raiseAt = callsOfARebuild + callsOfARebuild / 2;
     EXPECT_THROW(desk.editor().addActivity(desk.activity("line"), {"new"}), std::runtime_error);
-    EXPECT_EQ(window.tree(), "") << "emptied before the rebuild";
+    EXPECT_EQ(window.tree(), "Bom(P)") << "the last bill";
+    EXPECT_TRUE(window->IsOutOfDate());
     EXPECT_EQ(desk.editor().undoText(), "Add \"new\"");
     world.calls.raiseAt = 0;
     desk.editor().undo();
     EXPECT_EQ(window.tree(), "Bom(P)");
+    EXPECT_FALSE(window->IsOutOfDate());
 }
 
 } // namespace

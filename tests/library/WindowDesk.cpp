@@ -1,4 +1,4 @@
-#include "planner/edit/WindowDesk.h"
+#include "library/WindowDesk.h"
 
 #include "QORPlatform/dialog/QORDialogLoop.h"
 #include "QORPlatform/visualization/QORVisManager.h"

@@ -1,7 +1,7 @@
 // The window from its making to its end: the order of its steps, what it hands over, its title, and what it does where
 // something is missing.
 
-#include "planner/edit/WindowDesk.h"
+#include "library/WindowDesk.h"
 #include "support/BomText.h"
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
@@ -148,9 +148,11 @@ T +root 1-1
   <-- VXMFabBomViewer::Constructor
   --> VXMFabBomViewer::OnActivityCallback
   --> VXMFabBomViewer::UpdateBom
+  refill
 T -root 1-1
   --- TRACE 1 ---
 T +root 1-1
+  refilled
   redraw
   draw
   <-- VXMFabBomViewer::UpdateBom

@@ -1,7 +1,9 @@
+#include "QORPlatform/toolkit/QORIcons.h"
 #include "QORPlatform/toolkit/QORProgress.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <string>
 #include <utility>
 
@@ -45,6 +47,18 @@ TEST(Progress, IsToldOfTheOutermostWorkAndMayCancelIt) {
     EXPECT_EQ(told.take(), "begun 1024/0 ended ");
     work(1, 0);
     EXPECT_EQ(told.take(), "begun ended ");
+}
+
+TEST(Icons, ComeFromAFolderByTheirName) {
+    const std::string folder = testing::TempDir();
+    const std::string drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\"/>\n";
+    std::ofstream(folder + "/I_Test.svg") << drawing;
+    QORIconFolder icons(folder);
+    EXPECT_EQ(icons.GetDrawing("I_Test"), drawing);
+    EXPECT_EQ(icons.GetDrawing("I_Other"), "");
+    EXPECT_EQ(icons.GetDrawing("./I_Test"), "");
+    EXPECT_EQ(icons.GetDrawing(""), "");
+    EXPECT_EQ(QORIconResource::GetCurrent(), nullptr);
 }
 
 } // namespace
