@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <unordered_set>
 
 namespace planner {
 
@@ -25,28 +24,6 @@ bool isStep(const ModelObject& object) {
 
 VXMFabFlowNode* nodeOf(VXMBomGenerator& generator, const ModelObject& step) {
     return generator.CheckUse(QORBaseUnknown_var(const_cast<ModelObject*>(&step)));
-}
-
-/// The objects from which links lead to the end of the flow.
-std::unordered_set<const QORBaseUnknown*> reachedBy(VXMBomGenerator& generator, const ModelObject& root) {
-    std::unordered_set<const QORBaseUnknown*> objects;
-    std::unordered_set<const VXMFabFlowNode*> met;
-    std::vector<VXMFabFlowNode*> open;
-    const auto visit = [&](VXMFabFlowNode* node) {
-        if (node && met.insert(node).second) {
-            objects.insert(node->GetActivity().Impl());
-            open.push_back(node);
-        }
-    };
-    visit(generator.GetLastNodeInFlow(nodeOf(generator, root)));
-    while (!open.empty()) {
-        VXMFabFlowNode* const node = open.back();
-        open.pop_back();
-        for (int i = 1; i <= node->GetNumberOfPredecessors(); ++i) {
-            visit(node->GetPredecessor(i));
-        }
-    }
-    return objects;
 }
 
 /// What the lists of some steps have to offer to a bill.
@@ -122,7 +99,7 @@ struct Ways {
 };
 
 Ways waysOf(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps) {
-    const auto objects = reachedBy(generator, *steps.front());
+    const auto objects = objectsOnWayToEnd(generator, *steps.front());
     Ways ways{{steps.front()}, {}};
     std::partition_copy(steps.begin() + 1, steps.end(), std::back_inserter(ways.reached), std::back_inserter(ways.lost),
                         [&](const ModelObject* step) { return objects.contains(step); });
@@ -170,6 +147,27 @@ std::vector<const ModelObject*> stepsFrom(const ModelObject& root) {
         }
     });
     return steps;
+}
+
+std::unordered_set<const QORBaseUnknown*> objectsOnWayToEnd(VXMBomGenerator& generator, const ModelObject& root) {
+    std::unordered_set<const QORBaseUnknown*> objects;
+    std::unordered_set<const VXMFabFlowNode*> met;
+    std::vector<VXMFabFlowNode*> open;
+    const auto visit = [&](VXMFabFlowNode* node) {
+        if (node && met.insert(node).second) {
+            objects.insert(node->GetActivity().Impl());
+            open.push_back(node);
+        }
+    };
+    visit(generator.GetLastNodeInFlow(nodeOf(generator, root)));
+    while (!open.empty()) {
+        VXMFabFlowNode* const node = open.back();
+        open.pop_back();
+        for (int i = 1; i <= node->GetNumberOfPredecessors(); ++i) {
+            visit(node->GetPredecessor(i));
+        }
+    }
+    return objects;
 }
 
 std::optional<std::string> remarkOn(VXMBomGenerator& generator, const std::vector<const ModelObject*>& steps,
