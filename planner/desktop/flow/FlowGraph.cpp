@@ -8,8 +8,7 @@
 #include "planner/desktop/flow/Loops.h"
 #include "planner/model/Contents.h"
 
-#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
-#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <algorithm>
 #include <deque>
@@ -186,12 +185,8 @@ FlowGraph readFlow(FlowObject& owner, const ModelObject* around, std::size_t lim
     }
     addArrows(graph, places);
     markLoops(graph);
-    if (owner.sort() == Sort::Resource) {
-        VXMResourceBomGenerator generator{QORBaseUnknown_var(&owner)};
-        markWay(graph, places, generator, owner);
-    } else {
-        VXMProcessBomGenerator generator{QORBaseUnknown_var(&owner)};
-        markWay(graph, places, generator, owner);
+    if (const auto generator = VXMMakeBomGenerator(&owner)) { // a logical node has none, as it has no bill
+        markWay(graph, places, *generator, owner);
     }
     return graph;
 }

@@ -33,7 +33,8 @@ void placeLoose(const std::vector<int>& loose, const QRectF& linked, FlowLayout&
     const auto fitting = static_cast<std::size_t>(linked.width() / stepX);
     const auto wanted = static_cast<std::size_t>(std::sqrt(kRowsAreWider * static_cast<double>(loose.size()) / 3));
     const std::size_t columns = std::max<std::size_t>({1, fitting, wanted});
-    const QPointF first = linked.isNull() ? QPointF() : linked.bottomLeft() + QPointF(kBoxSize.width() / 2, stepY);
+    const QPointF first =
+        linked.isNull() ? QPointF() : linked.bottomLeft() + QPointF(kBoxSize.width(), stepY + kGap.height()) / 2;
     for (std::size_t i = 0; i < loose.size(); ++i) {
         layout.centres[loose[i]] =
             first + QPointF(static_cast<double>(i % columns) * stepX, static_cast<double>(i / columns) * stepY);

@@ -11,7 +11,7 @@ namespace planner::desktop {
 
 namespace {
 
-constexpr double kReadable = 0.75; // smallest scale at which names are still read
+constexpr double kReadable = 0.7; // smallest scale at which names are still read
 constexpr double kSmallest = 0.02;
 constexpr double kLargest = 4;
 
@@ -168,15 +168,10 @@ void FlowView::fit() {
 /// As much of the picture as can be read, from the beginning on.
 void FlowView::fitReadably() {
     fit();
-    if (transform().m11() < kReadable) {
+    if (!boxes_.empty() && transform().m11() < kReadable) {
         setTransform(QTransform::fromScale(kReadable, kReadable));
-        const BoxItem* const box = currentBox();
-        const QRectF all = sceneRect();
-        if (box) {
-            centerOn(box);
-        } else {
-            centerOn(QPointF(all.left(), all.center().y()));
-        }
+        const BoxItem* const current = currentBox();
+        centerOn(current ? current : boxes_.front());
     }
 }
 
