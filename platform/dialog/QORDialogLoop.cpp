@@ -49,5 +49,9 @@ QORHandling::QORHandling(const QORDialog* iDialog) {
 }
 
 QORHandling::~QORHandling() {
-    QORDialogLoop::Get()._handled.pop_back();
+    QORDialogLoop& loop = QORDialogLoop::Get();
+    loop._handled.pop_back();
+    if (loop._handled.empty() && !loop._waiting.empty() && loop._peer) {
+        loop._peer->WorkWaits();
+    }
 }

@@ -7,7 +7,8 @@ class QORLoopPeer {
 public:
     virtual ~QORLoopPeer() = default;
 
-    /// Something waits for the dialog loop now, and nothing did before. For an event loop that doesn't say when it is
-    /// about to wait: see to it that the dialog loop is run once control is back there. Run nothing here.
+    /// Something waits for the dialog loop now and nothing did before, or still does though the last handler on the
+    /// stack has returned. For an event loop that doesn't say when it is about to wait: see to it that the dialog loop
+    /// is run once control is back there. Run nothing here.
     virtual void WorkWaits() = 0;
 };

@@ -143,8 +143,13 @@ TEST_F(Dialogs, WakeTheHostsLoopOnceForAllThatWaits) {
     b_->RequestDelayedDestruction();
     EXPECT_EQ(host.woken_, 1);
     runLoop();
-    frame_->RequestDelayedDestruction();
-    EXPECT_EQ(host.woken_, 2);
+    {
+        const QORHandling handling(frame_);
+        frame_->RequestDelayedDestruction();
+        EXPECT_EQ(host.woken_, 2);
+        runLoop();
+    }
+    EXPECT_EQ(host.woken_, 3) << "again when nothing holds it up any more";
 }
 
 /// A dialog that notes the sizes that another one tells.

@@ -4,8 +4,7 @@
 #include "support/BomText.h"
 
 #include "QORPlatform/notification/QORSPPActivityNotification.h"
-#include "VXMBomInfrastructure/process/VXMProcessBomGenerator.h"
-#include "VXMBomInfrastructure/resource/VXMResourceBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <gtest/gtest.h>
 
@@ -33,11 +32,7 @@ const char* const kWorld = R"({"version": 1,
             ["robot", "gripper"], ["load", "check"]]})";
 
 std::string billUnder(QORBaseUnknown& root) {
-    const QORBaseUnknown_var handle(&root);
-    if (QORISPPActivity_var(handle)) {
-        return testmodel::bomText(VXMProcessBomGenerator(handle).GetBom(0));
-    }
-    return testmodel::bomText(VXMResourceBomGenerator(handle).GetBom(0));
+    return testmodel::bomText(VXMMakeBomGenerator(QORBaseUnknown_var(&root))->GetBom(0));
 }
 
 std::string billsOf(const planner::Plan& plan) {
