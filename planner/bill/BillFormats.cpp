@@ -4,6 +4,7 @@
 #include "planner/bill/BillFormats.h"
 
 #include "planner/file/JsonText.h"
+#include "planner/file/SourceText.h"
 #include "planner/model/Item.h"
 
 #include <array>
@@ -108,7 +109,7 @@ void putXml(TextSink& sink, std::string_view text) {
         case '\r':
             return "&#13;";
         default:
-            return static_cast<unsigned char>(letter) < 0x20 ? "\xEF\xBF\xBD" : nullptr;
+            return isControlCharacter(letter) ? "\xEF\xBF\xBD" : nullptr;
         }
     });
 }

@@ -150,10 +150,12 @@ std::optional<EncodingFault> findEncodingFault(std::string_view text) {
     return std::nullopt;
 }
 
+bool isControlCharacter(char letter) {
+    return static_cast<unsigned char>(letter) < 0x20 && letter != '\t' && letter != '\n' && letter != '\r';
+}
+
 bool holdsControlCharacter(std::string_view text) {
-    return std::any_of(text.begin(), text.end(), [](char letter) {
-        return static_cast<unsigned char>(letter) < 0x20 && letter != '\t' && letter != '\n' && letter != '\r';
-    });
+    return std::any_of(text.begin(), text.end(), isControlCharacter);
 }
 
 std::size_t signatureLength(std::string_view text) {

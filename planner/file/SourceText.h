@@ -25,7 +25,10 @@ struct EncodingFault {
 /// The first byte that keeps the text from being UTF-8 without NUL; nothing when it is.
 std::optional<EncodingFault> findEncodingFault(std::string_view text);
 
-/// Whether a text holds a control character that no plan can: one other than tab and line end.
+/// A control character that no plan can hold: one other than tab and line end.
+bool isControlCharacter(char letter);
+
+/// Whether a text holds one.
 bool holdsControlCharacter(std::string_view text);
 
 /// What a message says of such a text, behind it.
