@@ -4,6 +4,7 @@
 #include "VXMBomInfrastructure/index/VXMByNumber.h"
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
+#include <unordered_set>
 #include <vector>
 
 namespace {
@@ -32,20 +33,27 @@ public:
             return;
         }
         Ends& ends = _ends[iNode.GetID()];
-        int before = kNone;
-        for (int link = ends.first; link != kNone; before = link, link = At(link).next) {
-            if (At(link).node == &iNode) {
-                (before == kNone ? ends.first : At(before).next) = At(link).next;
-                ends.last = ends.last == link ? before : ends.last;
-                return;
-            }
+        if (ends.first != kNone && At(ends.first).node == &iNode) {
+            ends.first = At(ends.first).next;
+            ends.last = ends.first == kNone ? kNone : ends.last;
+        } else {
+            _left.insert(&iNode);
         }
     }
 
-    VXMFabMBOMNode* FindFirst(int iID, const VXMFabMBOMNode& iExcept) const {
-        int link = _ends.Get(iID).first;
-        while (link != kNone && At(link).node == &iExcept) {
-            link = At(link).next;
+    VXMFabMBOMNode* FindFirst(int iID, const VXMFabMBOMNode& iExcept) {
+        Ends& ends = _ends[iID];
+        ends.first = SkipLeft(ends.first);
+        if (ends.first == kNone) {
+            ends.last = kNone;
+            return nullptr;
+        }
+        int link = ends.first;
+        while (link != kNone && At(link).node == &iExcept) { // more than once only where it was entered more than once
+            const int next = SkipLeft(At(link).next);
+            At(link).next = next;
+            ends.last = next == kNone ? link : ends.last;
+            link = next;
         }
         return link == kNone ? nullptr : At(link).node;
     }
@@ -61,10 +69,18 @@ private:
     };
 
     Link& At(int iLink) { return _links[iLink - 1]; }
-    const Link& At(int iLink) const { return _links[iLink - 1]; }
+
+    /// The first link from the given one on whose node hasn't left. Whoever asks takes the links before it out.
+    int SkipLeft(int iLink) {
+        while (iLink != kNone && !_left.empty() && _left.erase(At(iLink).node) > 0) {
+            iLink = At(iLink).next;
+        }
+        return iLink;
+    }
 
     std::vector<Link> _links;
     VXMByNumber<Ends> _ends;
+    std::unordered_set<const VXMFabMBOMNode*> _left; // nodes that have left from behind the front of their chain
 };
 
 VXMSiblingChains::VXMSiblingChains(const VXMBomTree& iTree) : _tree(iTree) {}
@@ -84,7 +100,7 @@ VXMFabMBOMNode* VXMSiblingChains::SearchBeside(VXMFabMBOMNode& iNode) {
 }
 
 VXMFabMBOMNode* VXMSiblingChains::FindBeside(VXMFabMBOMNode& iNode) {
-    const Chains* const chains = ChainsOf(*iNode.GetPredecessor());
+    Chains* const chains = ChainsOf(*iNode.GetPredecessor());
     return chains ? chains->FindFirst(iNode.GetID(), iNode) : SearchBeside(iNode);
 }
 

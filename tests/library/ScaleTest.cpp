@@ -86,6 +86,19 @@ TEST(Scale, EveryProductRemovedAndAssignedAgain) {
     expectElements(root, kMany);
 }
 
+/// Every removal of a process assignment comes behind all first assignments beside it.
+TEST(Scale, OneProductWorkedOnAndBroughtInManyTimes) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    Thing* const product = &world.thing("P", kItem);
+    const Things& steps = *root.children;
+    for (std::size_t index = 0; index < steps.size(); ++index) {
+        steps[index]->items[2]->clear();
+        steps[index]->items[index * 2 < steps.size() ? 1 : 2]->push_back(product);
+    }
+    expectElements(root, 1);
+}
+
 TEST(Scale, EveryStepIsLinkedToOneThatLeadsNowhere) {
     World world;
     Thing& root = chainPlan(world, kMany);
