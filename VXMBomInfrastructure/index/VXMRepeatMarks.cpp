@@ -5,6 +5,7 @@
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 #include <unordered_map>
+#include <vector>
 
 namespace {
 
@@ -42,8 +43,8 @@ std::optional<bool> VXMRepeatMarks::HasBelow(const VXMFabMBOMNode& iNode) {
     return _isUsable ? std::optional(_marked.contains(&iNode)) : std::nullopt;
 }
 
-/// Whether lists and parents mirror each other, and every child but those of the top node stands in its parent's
-/// register, behind it. Looks into no node that isn't registered.
+/// Whether lists and parents mirror each other, one entry a child, and every child but those of the top node stands in
+/// its parent's register, behind it. Looks into no node that isn't registered.
 bool VXMRepeatMarks::ChildrenFollowTheirParents() const {
     std::unordered_map<const VXMFabMBOMNode*, int> places;
     int children = 0;
@@ -54,14 +55,17 @@ bool VXMRepeatMarks::ChildrenFollowTheirParents() const {
             children += nodes[position]->GetPredecessor() ? 1 : 0;
         }
     }
+    std::vector<bool> isListed(places.size(), false);
     for (const auto& [node, place] : places) {
         for (int position = 1; position <= node->GetNumberOfSuccessors(); ++position) {
             const VXMFabMBOMNode* const child = node->GetSuccessor(position);
             const auto known = places.find(child);
-            if (known == places.end() || known->second < place || child->GetPredecessor() != node ||
+            if (known == places.end() || known->second < place || isListed[known->second] ||
+                child->GetPredecessor() != node ||
                 (node->GetAT() != VXMFabMBOMNode::AT_Top && child->GetAT() != node->GetAT())) {
                 return false;
             }
+            isListed[known->second] = true;
             --children;
         }
     }
