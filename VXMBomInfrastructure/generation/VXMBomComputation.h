@@ -13,6 +13,7 @@
 #include "VXMBomInfrastructure/index/VXMStations.h"
 
 #include <optional>
+#include <utility>
 
 class VXMBomGenerator;
 
@@ -43,4 +44,22 @@ struct VXMBomComputation {
 
     /// The present computation of a generator, for the walks and flow nodes that belong to it.
     static VXMBomComputation& Of(VXMBomGenerator& iGenerator);
+
+    /// Whether a generator's model is being read; VXMModelReading sets it.
+    static bool& IsBusy(VXMBomGenerator& iGenerator);
+};
+
+/// Keeps a generator busy for as long as this lives: its model is being read for graph or tree, and may not take them
+/// away meanwhile. One within another changes nothing.
+class VXMModelReading {
+public:
+    explicit VXMModelReading(VXMBomGenerator& iGenerator) : VXMModelReading(VXMBomComputation::IsBusy(iGenerator)) {}
+    explicit VXMModelReading(bool& ioIsBusy) : _isBusy(ioIsBusy), _wasBusy(std::exchange(ioIsBusy, true)) {}
+    ~VXMModelReading() { _isBusy = _wasBusy; }
+    VXMModelReading(const VXMModelReading&) = delete;
+    VXMModelReading& operator=(const VXMModelReading&) = delete;
+
+private:
+    bool& _isBusy;
+    bool _wasBusy;
 };

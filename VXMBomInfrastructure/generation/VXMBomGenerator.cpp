@@ -45,10 +45,14 @@ VXMBomComputation& VXMBomComputation::Of(VXMBomGenerator& iGenerator) {
     return *iGenerator._state->computation;
 }
 
+bool& VXMBomComputation::IsBusy(VXMBomGenerator& iGenerator) {
+    return iGenerator._state->isBusy;
+}
+
 void VXMBomGenerator::State::ExpectIdle(const char* iOperation) const {
     if (isBusy) {
         throw std::logic_error("VXMBomGenerator::" + std::string(iOperation) +
-                               ": called by the model from which this generator is computing a bill");
+                               ": called by the model that this generator is reading");
     }
 }
 

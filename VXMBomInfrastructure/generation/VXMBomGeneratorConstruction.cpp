@@ -77,7 +77,7 @@ private:
 class WalkUnderWay {
 public:
     WalkUnderWay(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iEnd)
-        : _walk(VXMBomComputation::Of(ioGenerator).backwardWalk), _isFirst(!_walk) {
+        : _reading(ioGenerator), _walk(VXMBomComputation::Of(ioGenerator).backwardWalk), _isFirst(!_walk) {
         if (!_isFirst) {
             return;
         }
@@ -99,6 +99,7 @@ public:
     WalkUnderWay& operator=(const WalkUnderWay&) = delete;
 
 private:
+    VXMModelReading _reading;
     std::optional<VXMBackwardWalk>& _walk;
     bool _isFirst;
 };

@@ -21,7 +21,7 @@ public:
     /// Runs iWork on a new computation, which is dropped when it raises. The generator is busy meanwhile.
     template <class Work>
     void Compute(Work iWork) {
-        const Busy busy(*this);
+        const VXMModelReading reading(isBusy);
         Begin();
         try {
             iWork(*computation);
@@ -48,16 +48,5 @@ public:
     bool HasRepeatBelow(VXMFabMBOMNode& iNode) const;
 
 private:
-    class Busy {
-    public:
-        explicit Busy(State& ioState) : _state(ioState) { _state.isBusy = true; }
-        ~Busy() { _state.isBusy = false; }
-        Busy(const Busy&) = delete;
-        Busy& operator=(const Busy&) = delete;
-
-    private:
-        State& _state;
-    };
-
     void Begin() { computation = std::make_unique<VXMBomComputation>(); }
 };

@@ -2,6 +2,7 @@
 
 #include "QORPlatform/framework/QORDeepStack.h"
 #include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 #include "VXMBomInfrastructure/generation/VXMStructure.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
@@ -109,6 +110,7 @@ int VXMBomGenerator::CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, in
     if (!iNode) {
         return iNumber;
     }
+    const VXMModelReading reading(*this);
     VXMStructure structure(*this, VXMStructure::Kind::AssembliesAndProducts);
     for (const QORBaseUnknown_var& object : iPath) {
         structure.WasExpanded(object);
@@ -117,5 +119,6 @@ int VXMBomGenerator::CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, in
 }
 
 int VXMBomGenerator::CreateOldMAChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber) {
+    const VXMModelReading reading(*this);
     return iNode ? VXMStructure(*this, VXMStructure::Kind::AssembliesOnly).Expand(*iNode, iLevel, iNumber) : iNumber;
 }

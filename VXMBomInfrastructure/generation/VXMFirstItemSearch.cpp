@@ -10,7 +10,7 @@ namespace {
 class SearchUnderWay {
 public:
     explicit SearchUnderWay(VXMBomGenerator& iGenerator)
-        : _items(VXMBomComputation::Of(iGenerator).firstItems), _isFirst(!_items) {
+        : _reading(iGenerator), _items(VXMBomComputation::Of(iGenerator).firstItems), _isFirst(!_items) {
         if (_isFirst) {
             _items.emplace(VXMFirstItems::Answers::Forgotten);
         }
@@ -26,6 +26,7 @@ public:
     VXMFirstItems& operator*() const { return *_items; }
 
 private:
+    VXMModelReading _reading;
     std::optional<VXMFirstItems>& _items;
     bool _isFirst;
 };

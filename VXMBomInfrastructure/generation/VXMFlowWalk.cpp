@@ -3,7 +3,6 @@
 #include "QORPlatform/framework/QORDeepStack.h"
 #include "QORPlatform/toolkit/QORProgress.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
-#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 #include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
@@ -42,7 +41,8 @@ void TraceNodeName(const char* iLabel, const VXMFabFlowNode* iNode) {
 } // namespace
 
 VXMFlowWalk::VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel)
-    : _generator(ioGenerator), _previous(iPrevious), _current(iCurrent), _level(iLevel), _last(iPrevious) {}
+    : _reading(ioGenerator), _generator(ioGenerator), _previous(iPrevious), _current(iCurrent), _level(iLevel),
+      _last(iPrevious) {}
 
 void VXMFlowWalk::VisitChildren(const QORListValQORBaseUnknown_var& iChildren, Standalone iStandalone) {
     const int count = iChildren.Size();

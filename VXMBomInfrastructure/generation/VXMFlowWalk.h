@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 
 class VXMBomGenerator;
 class VXMFabFlowNode;
@@ -43,6 +44,7 @@ private:
     void WalkOn(VXMFabFlowNode* iFrom, VXMFabFlowNode* iNode, int iLevel);
     void LinkNodes(VXMFabFlowNode* iBefore, VXMFabFlowNode* iAfter, const char* iBeforeLabel, const char* iAfterLabel);
 
+    VXMModelReading _reading;
     VXMBomGenerator& _generator;
     VXMFabFlowNode* _previous;
     VXMFabFlowNode* _current;

@@ -301,6 +301,32 @@ TEST(GetBom, AskedByTheModelThatItReadsGivesTheLastBill) {
     EXPECT_EQ(bomText(last), "Q A(P)");
 }
 
+/// The same while somebody runs one of the operations by hand that read the model.
+TEST(Operations, CalledByHandKeepGraphAndTreeFromTheModel) {
+    World world;
+    Thing& root = drawPlan(world, "S1: +A(P) | S2: +B[Q]");
+    VXMProcessBomGenerator generator(handle(root));
+    generator.GetBom(0);
+    const DOM_Document last = generator.GetBom(0);
+    VXMFabMBOMNode* const top = generator.GetTopNode();
+    VXMFabFlowNode* const end = generator.CheckUse(handle(root));
+    world.calls.during = [&] {
+        EXPECT_EQ(generator.GetBom(1), last);
+        EXPECT_THROW(generator.FreeFN(), std::logic_error);
+        EXPECT_THROW(generator.FreeMN(), std::logic_error);
+    };
+    const std::string before = treeText(*top);
+    generator.CreateMBOM(end, top, 1);
+    generator.CreateOldMBOM(end, top, 1);
+    generator.CreateProductChildren(top->GetSuccessor(1), 1, 1, {});
+    generator.CreateOldMAChildren(top->GetSuccessor(1), 1, 1);
+    EXPECT_EQ(generator.GetFirstFlowNode(handle(world["S2"])), handle(world["S1"]));
+    EXPECT_EQ(generator.CheckFlow(nullptr, end, 0), nullptr); // meets nothing new
+    EXPECT_NE(treeText(*top), before);
+    world.calls.during = nullptr;
+    EXPECT_EQ(bomText(generator.GetBom(1)), bomText(last));
+}
+
 TEST(HandleOrder, GoesByTheImplementations) {
     World world;
     Thing& first = world.thing("A", kItem | kProduct);
