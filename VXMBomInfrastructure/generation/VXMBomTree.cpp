@@ -2,12 +2,20 @@
 
 #include <algorithm>
 
+namespace {
+
+bool HasKnownType(const VXMFabMBOMNode& iNode) {
+    return iNode.GetAT() >= VXMFabMBOMNode::AT_Top && iNode.GetAT() <= VXMFabMBOMNode::AT_Fastener;
+}
+
+} // namespace
+
 VXMBomTree::~VXMBomTree() {
     Free();
 }
 
 void VXMBomTree::Add(VXMFabMBOMNode* iNode) {
-    if (!iNode || iNode->GetAT() < VXMFabMBOMNode::AT_Top || iNode->GetAT() > VXMFabMBOMNode::AT_Fastener) {
+    if (!iNode || !HasKnownType(*iNode)) {
         return;
     }
     // The count first, so that a node that couldn't be entered everywhere isn't owned here yet.
@@ -19,8 +27,11 @@ void VXMBomTree::Add(VXMFabMBOMNode* iNode) {
 }
 
 void VXMBomTree::Remove(VXMFabMBOMNode* iNode) {
-    if (_nodes[iNode->GetAT()].RemoveValue(iNode) && iNode->IsAssignment()) {
+    if (HasKnownType(*iNode) && _nodes[iNode->GetAT()].RemoveValue(iNode) && iNode->IsAssignment()) {
         --_assignments[iNode->GetID()];
+    }
+    if (_top == iNode) {
+        _top = nullptr;
     }
     delete iNode;
 }

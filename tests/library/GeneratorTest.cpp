@@ -327,6 +327,19 @@ TEST(Operations, CalledByHandKeepGraphAndTreeFromTheModel) {
     EXPECT_EQ(bomText(generator.GetBom(1)), bomText(last));
 }
 
+TEST(Operations, ANodeOfNoKnownTypeIsDeletedAlone) {
+    VXMProcessBomGenerator generator(nullptr);
+    generator.GetBom(0);
+    VXMFabMBOMNode* const top = generator.GetTopNode();
+    auto* const node = new VXMFabMBOMNode(nullptr, 1, 1, VXMFabMBOMNode::AssignmentType(7), 1);
+    generator.AddMBOMNodeToList(node);
+    top->AddSuccessor(node);
+    node->SetPredecessor(top);
+    EXPECT_EQ(generator.RemoveNodeFromMBOMFlow(node), 1);
+    EXPECT_EQ(generator.RemoveNodeAndChildrenFromListAndDico(top), 1);
+    EXPECT_EQ(generator.GetTopNode(), nullptr);
+}
+
 TEST(HandleOrder, GoesByTheImplementations) {
     World world;
     Thing& first = world.thing("A", kItem | kProduct);
