@@ -1,18 +1,18 @@
 // The planner as a desktop application.
 
 #include "planner/desktop/app/Display.h"
+#include "planner/desktop/app/FileCommands.h"
 #include "planner/desktop/app/MainWindow.h"
 #include "planner/desktop/app/Options.h"
 #include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/settings/Preferences.h"
+#include "planner/desktop/toolkit/LoopHook.h"
 
-#include "QORPlatform/dialog/QORDialogLoop.h"
-
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 
 #include <cstdio>
 #include <exception>
+#include <unistd.h>
 
 namespace {
 
@@ -27,13 +27,20 @@ int run(const planner::desktop::Options& options) {
     planner::desktop::MainWindow window;
     const QStringList faults = window.open(options);
     if (!faults.isEmpty()) {
-        return complain(faults.join('\n').toStdString());
+        const int status = complain(faults.join('\n').toStdString());
+        if (options.screenshot || ::isatty(STDERR_FILENO) != 0) {
+            return status;
+        }
+        window.say(faults.join('\n')); // nobody may be reading what we complain of
     }
     window.show();
     if (options.screenshot) {
         QApplication::processEvents();
         const bool written = window.grab().save(QString::fromStdString(*options.screenshot), "PNG");
         return written ? 0 : complain(*options.screenshot + " can't be written");
+    }
+    if (faults.isEmpty()) {
+        window.files().offerRecovery();
     }
     return QApplication::exec();
 }
@@ -59,8 +66,7 @@ int main(int argc, char** argv) {
         QApplication::setStyle("Fusion");
         QApplication::setWindowIcon(planner::desktop::icon("planner-desktop"));
         planner::desktop::applyAppearance(planner::desktop::readAppearance());
-        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                         [] { QORDialogLoop::Get().Run(); });
+        const planner::desktop::LoopHook hook;
         return run(options);
     } catch (const std::exception& error) {
         complain(error.what());

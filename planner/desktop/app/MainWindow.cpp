@@ -40,7 +40,12 @@ MainWindow::MainWindow()
     makePanes();
     makeMenus();
     connect(progress_, &Progress::worked, static_cast<StatusLine*>(statusBar()), &StatusLine::computed);
-    connect(commands_, &PlanCommands::added, this, [this](ModelObject* object) { editAdded(*object); });
+    connect(commands_, &PlanCommands::added, this, [this](ModelObject* object, ModelObject* owner) {
+        if (owner) {
+            plan_->open(*owner);
+        }
+        editName(*object);
+    });
     connect(desk_, &BomDesk::said, bar_, [this](const QString& text) { bar_->say(text); });
     connect(session_, &PlanSession::refused, bar_, [this](const QString& reason) { bar_->say(reason); });
     connect(session_, &PlanSession::fileStateChanged, this, &MainWindow::followFile);
@@ -123,6 +128,10 @@ QStringList MainWindow::open(const Options& options) {
     return {};
 }
 
+void MainWindow::say(const QString& text) {
+    bar_->say(text);
+}
+
 void MainWindow::openBill(int mode) {
     ModelObject* const present = choice_->present();
     const bool isRoot = choice_->objects().size() == 1 && BomDesk::isRoot(*present);
@@ -152,7 +161,7 @@ void MainWindow::onSide(void (BomSide::*act)()) {
     }
 }
 
-void MainWindow::editAdded(ModelObject& object) {
+void MainWindow::editName(ModelObject& object) {
     if (object.sort() == Sort::Item) {
         items_->editName(object);
     } else {
@@ -162,7 +171,7 @@ void MainWindow::editAdded(ModelObject& object) {
 
 void MainWindow::rename() {
     if (ModelObject* const present = choice_->present()) {
-        editAdded(*present);
+        editName(*present);
     }
 }
 

@@ -44,6 +44,9 @@ public:
     /// Opens what the command line names. Gives what is wrong with it, a line each.
     QStringList open(const Options& options);
 
+    /// Shows a text above the bills until it is closed.
+    void say(const QString& text);
+
     /// Opens a bill on what is chosen, where that can be the root of one, else on the process.
     void openBill(int mode);
 
@@ -72,7 +75,7 @@ private:
                  const std::function<void()>& run);
     void onSide(void (BomSide::*act)());
 
-    void editAdded(ModelObject& object);
+    void editName(ModelObject& object);
     void rename();
     void remove();
     void chooseFasteners();

@@ -69,6 +69,7 @@ void BomDesk::finish(VXMFabBomViewer& window, ModelObject& root, int mode) {
     placed_->setWindowIcon(icon(kModeIcons[static_cast<std::size_t>(mode)]));
     auto* const side = new BomSide(window, *placed_, root, choice_, (mode & 1) != 0);
     connect(side, &BomSide::said, this, &BomDesk::said);
+    connect(&session_, &PlanSession::changed, side, &BomSide::remarkSoon);
     Q_EMIT area_.currentChanged();
 }
 

@@ -56,6 +56,7 @@ BomSide::BomSide(VXMFabBomViewer& window, FramePane& pane, ModelObject& root, Ch
     found_->setIconSize({16, 16});
     found_->setObjectName("bom-matches");
     tree_->setObjectName("bom-tree");
+    tree_->setAccessibleName("Bill");
     remark_->setWordWrap(true);
     remark_->setMargin(6);
     remark_->setObjectName("bom-remark");
@@ -77,9 +78,13 @@ BomSide::BomSide(VXMFabBomViewer& window, FramePane& pane, ModelObject& root, Ch
         tree_->reveal(path);
     });
     connect(tree_, &TreeView::picked, this, &BomSide::chooseRow);
-    connect(tree_, &TreeView::refilled, this, &BomSide::refresh);
+    connect(tree_, &TreeView::refilled, this, &BomSide::followRefill);
     connect(&choice_, &Choice::changed, this, &BomSide::showChoice);
-    refresh();
+    constexpr int kPause = 250; // milliseconds after an edit: steps are gone through for it
+    remarkTimer_.setSingleShot(true);
+    remarkTimer_.setInterval(kPause);
+    connect(&remarkTimer_, &QTimer::timeout, this, &BomSide::remark);
+    remark();
     if (tree_->model()->rowCount() > 0) {
         tree_->setExpanded(tree_->model()->index(0, 0), true);
     }
@@ -95,20 +100,32 @@ QString BomSide::heading() const {
     return QString::fromStdString(root_->name());
 }
 
-void BomSide::refresh() {
-    const VXMFabBomViewer* const window = window_.Get();
-    if (!window || !window->GetGenerator()) {
-        return;
-    }
-    const bool isEmpty = window->GetGenerator()->GetPreviewObjects().Size() == 0;
-    const auto remark = remarkOn(*window->GetGenerator(), stepsFrom(*root_.Get()), isEmpty);
-    remark_->setText(remark    ? QString::fromStdString(*remark)
-                     : isEmpty ? "The bill is empty: give items to the steps on the way to the end of the flow."
-                               : QString());
-    remark_->setVisible(!remark_->text().isEmpty());
+void BomSide::followRefill() {
+    remarkSoon();
     if (!filter_->text().isEmpty()) {
         search();
     }
+}
+
+QString BomSide::remarkText() const {
+    const VXMFabBomViewer* const window = window_.Get();
+    if (!window || !window->GetGenerator()) {
+        return {};
+    }
+    if (window->IsOutOfDate()) {
+        return "This bill is of an earlier state of the plan: its last computation was cancelled or failed.";
+    }
+    const bool isEmpty = window->GetGenerator()->GetPreviewObjects().Size() == 0;
+    const auto known = remarkOn(*window->GetGenerator(), stepsFrom(*root_.Get()), isEmpty);
+    if (known) {
+        return QString::fromStdString(*known);
+    }
+    return isEmpty ? "The bill is empty: give items to the steps on the way to the end of the flow." : QString();
+}
+
+void BomSide::remark() {
+    remark_->setText(remarkText());
+    remark_->setVisible(!remark_->text().isEmpty());
 }
 
 void BomSide::search() {

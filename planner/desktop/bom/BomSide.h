@@ -5,6 +5,7 @@
 #include "QORPlatform/dialog/QORWatch.h"
 
 #include <QStackedWidget>
+#include <QTimer>
 
 class QLabel;
 class QLineEdit;
@@ -41,6 +42,9 @@ public:
     void collapseAll();
     void copy() const;
 
+    /// Looks anew, once there is time, at what a person should know of the bill.
+    void remarkSoon() { remarkTimer_.start(); }
+
     /// Asks for a file and writes the bill to it, in the format of its ending.
     void exportBill();
 
@@ -48,7 +52,9 @@ Q_SIGNALS:
     void said(const QString& text);
 
 private:
-    void refresh();
+    void followRefill();
+    void remark();
+    QString remarkText() const;
     void search();
     void chooseRow();
     void showChoice();
@@ -62,6 +68,7 @@ private:
     MatchModel* matches_;
     QLineEdit* filter_;
     QLabel* remark_;
+    QTimer remarkTimer_;
     bool following_ = false;
 };
 

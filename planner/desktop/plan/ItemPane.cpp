@@ -25,6 +25,7 @@ ItemPane::ItemPane(PlanSession& session, Choice& choice, QWidget* parent)
     found_->setSourceModel(model_);
     found_->setFilterCaseSensitivity(Qt::CaseInsensitive);
     list_->setObjectName("item-list");
+    list_->setAccessibleName("Items");
     list_->setModel(found_);
     list_->setUniformItemSizes(true);
     list_->setIconSize({16, 16});

@@ -115,7 +115,7 @@ void PlanCommands::addStepTo(FlowObject& container, Activity* before) {
         });
     });
     if (done) {
-        Q_EMIT this->added(added);
+        Q_EMIT this->added(added, nullptr);
     }
 }
 
@@ -147,7 +147,7 @@ void PlanCommands::runAddResource() {
         made = &editor.addResource(parent, {free.id, free.name});
     });
     if (done) {
-        Q_EMIT added(made);
+        Q_EMIT added(made, nullptr);
     }
 }
 
@@ -158,7 +158,7 @@ void PlanCommands::runAddBehaviour() {
         made = &editor.addBehaviour(resource, freeId(editor.plan(), resource.id() + "-behaviour").id);
     });
     if (done) {
-        Q_EMIT added(made);
+        Q_EMIT added(made, nullptr);
     }
 }
 
@@ -194,7 +194,7 @@ void PlanCommands::runAddItem(ItemKind kind) {
         });
     });
     if (done) {
-        Q_EMIT added(made);
+        Q_EMIT added(made, hasLists ? present : nullptr);
     }
 }
 

@@ -37,8 +37,8 @@ public:
     std::array<QAction*, kActivityKinds.size()> setKind; ///< of the chosen activities
 
 Q_SIGNALS:
-    /// An object was added: show it, and let its name be typed.
-    void added(planner::ModelObject* object);
+    /// An object was added, an item to a list of the owner (null for none): show it, and let its name be typed.
+    void added(planner::ModelObject* object, planner::ModelObject* owner);
 
 private:
     QAction* make(const QString& text, const QString& iconName, const QKeySequence& keys, void (PlanCommands::*run)());

@@ -10,13 +10,14 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 
-#include <algorithm>
+#include <unordered_set>
 
 namespace planner::desktop {
 
 PlanPane::PlanPane(PlanSession& session, Choice& choice, QWidget* parent)
     : QTreeView(parent), session_(session), choice_(choice), model_(new PlanTreeModel(session, this)) {
     setObjectName("plan-tree");
+    setAccessibleName("Plan");
     setModel(model_);
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -44,8 +45,12 @@ void PlanPane::selectionChanged(const QItemSelection& selected, const QItemSelec
     std::erase_if(order_, [this](const QPersistentModelIndex& index) {
         return !index.isValid() || !selectionModel()->isSelected(index);
     });
+    std::unordered_set<const void*> known;
+    for (const QPersistentModelIndex& index : order_) {
+        known.insert(index.internalPointer());
+    }
     for (const QModelIndex& index : selectionModel()->selectedRows()) {
-        if (std::find(order_.begin(), order_.end(), index) == order_.end()) {
+        if (known.count(index.internalPointer()) == 0) {
             order_.emplace_back(index);
         }
     }

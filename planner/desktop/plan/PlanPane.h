@@ -24,6 +24,9 @@ public:
     /// it; false when there is none.
     bool reveal(ModelObject& object);
 
+    /// Opens the row of an activity, a resource or a behaviour, so that what is below is seen.
+    void open(ModelObject& object) { setExpanded(model_->reach(object), true); }
+
     /// Lets the name of a revealed object be typed.
     void editName(ModelObject& object);
 

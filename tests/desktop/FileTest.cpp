@@ -1,0 +1,135 @@
+// Plan files: saving, what changes outside, what survives a kill, and the program from outside.
+
+#include "desktop/Desk.h"
+
+#include "planner/desktop/app/FileCommands.h"
+#include "planner/desktop/plan/Recovery.h"
+#include "planner/desktop/widgets/InfoBar.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace {
+
+using desk::Desk;
+using planner::desktop::InfoBar;
+using planner::desktop::Recovery;
+
+QString readText(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void writeText(const QString& path, const QString& text) {
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(text.toUtf8());
+}
+
+void rename(Desk& desk, const char* id, const char* name) {
+    desk.session().perform([&](planner::PlanEditor& editor) { editor.rename(desk.object(id), name); });
+}
+
+void answer(Desk& desk, const QString& text) {
+    for (QPushButton* const button : desk.find<InfoBar>("info-bar").findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->text() == text) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            return;
+        }
+    }
+    throw std::runtime_error("nobody asks for " + text.toStdString());
+}
+
+TEST(FileTest, TheTitleMarksWhatIsNotSavedAndSavingWritesIt) {
+    Desk desk;
+    rename(desk, "one", "First");
+    EXPECT_TRUE(desk.window().isWindowModified());
+    QTest::keyClick(&desk.window(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(desk.window().isWindowModified());
+    EXPECT_TRUE(readText(desk.file()).contains("First"));
+    QTest::qWait(400);
+    EXPECT_EQ(desk.find<InfoBar>("info-bar").text(), ""); // our own writing is no change from outside
+    EXPECT_EQ(planner::desktop::FileCommands::recentFiles().front(), desk.file());
+}
+
+TEST(FileTest, AFileChangedOutsideIsReadAgainWhenAPersonWantsIt) {
+    Desk desk;
+    const auto isAsked = [&] {
+        return desk.find<InfoBar>("info-bar").text().contains("changed by another program");
+    };
+    writeText(desk.file(), readText(desk.file()).replace("\"one\"", "\"uno\""));
+    ASSERT_TRUE(QTest::qWaitFor(isAsked, 3000));
+    answer(desk, "Reload");
+    EXPECT_EQ(desk.object("uno").name(), "uno");
+    EXPECT_EQ(Desk::text(desk.bill()), "Bom(hinge rivet door)"); // its window is open again
+    writeText(desk.file(), "no plan");
+    ASSERT_TRUE(QTest::qWaitFor(isAsked, 3000));
+    answer(desk, "Reload");
+    EXPECT_TRUE(desk.find<InfoBar>("info-bar").text().contains(":1:2"));
+    EXPECT_EQ(desk.object("uno").name(), "uno");
+}
+
+TEST(FileTest, WhatAKilledProcessHasNotSavedIsOffered) {
+    QProcess other;
+    other.start(QApplication::applicationFilePath(), {"--edit-and-wait"});
+    ASSERT_TRUE(other.waitForReadyRead(20000));
+    const QString file = QString::fromUtf8(other.readLine()).trimmed();
+    EXPECT_TRUE(Recovery::left().empty()); // its process lives
+    ::kill(static_cast<pid_t>(other.processId()), SIGKILL);
+    ASSERT_TRUE(other.waitForFinished());
+    ASSERT_EQ(Recovery::left().size(), 1U);
+
+    Desk desk("");
+    desk.window().files().offerRecovery();
+    answer(desk, "Restore");
+    EXPECT_EQ(desk.object("one").name(), "Rescued");
+    EXPECT_EQ(desk.session().path(), file);
+    EXPECT_TRUE(desk.window().isWindowModified());
+    EXPECT_TRUE(Recovery::left().empty());
+}
+
+struct RunCase {
+    const char* what;
+    QStringList arguments;
+    QStringList environment;
+    int status;
+    const char* message;
+};
+
+TEST(FileTest, TheProgramSaysWhyItCannotShowAWindow) {
+    const RunCase cases[] = {
+        {"no display", {}, {"DISPLAY="}, 2, "DISPLAY is not set"},
+        {"a display that isn't there", {}, {"DISPLAY=:4711"}, 2, ":4711"},
+        {"a platform that isn't there", {}, {"QT_QPA_PLATFORM=nix"}, 2, "nix"},
+        {"no file", {"nowhere.plan.json", "--screenshot", "x.png"}, {}, 2, "nowhere.plan.json"},
+        {"no root", {EXAMPLES "/robot-cell.plan.json", "--root", "nix", "--screenshot", "x.png"}, {}, 2, "\"nix\""},
+        {"no mode", {"--mode", "4"}, {}, 2, "--mode"}};
+    for (const RunCase& each : cases) {
+        QProcess process;
+        process.setEnvironment(QProcess::systemEnvironment() + each.environment);
+        process.start(DESKTOP_PROGRAM, each.arguments);
+        ASSERT_TRUE(process.waitForFinished()) << each.what;
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << each.what;
+        EXPECT_EQ(process.exitCode(), each.status) << each.what;
+        EXPECT_TRUE(process.readAllStandardError().contains(each.message)) << each.what;
+    }
+}
+
+TEST(FileTest, AScreenshotShowsTheWindow) {
+    Desk desk;
+    const QString picture = desk.file() + ".png";
+    EXPECT_EQ(QProcess::execute(DESKTOP_PROGRAM, {EXAMPLES "/door-line.plan.json", "--screenshot", picture}), 0);
+    const QImage image(picture);
+    EXPECT_GE(image.width(), 1000);
+    EXPECT_EQ(QProcess::execute(DESKTOP_PROGRAM, {"--screenshot", "/nowhere/x.png"}), 2);
+}
+
+} // namespace
