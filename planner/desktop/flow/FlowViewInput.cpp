@@ -104,7 +104,11 @@ void FlowView::endDrawing() {
 
 void FlowView::mouseReleaseEvent(QMouseEvent* event) {
     if (!pressed_) {
+        const QList<QGraphicsItem*> selected = scene_.selectedItems(); // which a click on the ground would clear
         QGraphicsView::mouseReleaseEvent(event);
+        for (QGraphicsItem* const item : selected) {
+            item->setSelected(true);
+        }
         viewport()->setCursor(Qt::ArrowCursor);
         return;
     }
