@@ -115,7 +115,7 @@ QORNavigBox::Instances QORNavigBox::MakeInstances(const QORListValQORBaseUnknown
     std::unordered_set<QORBaseUnknown*> met;
     Instances made;
     while (ioTried < iObjects.Size() && static_cast<int>(made.size()) < iCount) {
-        const QORBaseUnknown_var object = iObjects[++ioTried];
+        const QORBaseUnknown_var& object = iObjects[++ioTried];
         const bool isRepeat = ShowsOnce() && (IsShown(object) || !met.insert(object.Impl()).second);
         if (!isRepeat && IsTreeObject(object)) {
             made.push_back(MakeInstance(object, iDepth, ioTried));

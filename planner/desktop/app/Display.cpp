@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QLibraryInfo>
 
+#include <memory>
+
 #include <xcb/xcb.h>
 
 namespace planner::desktop {
@@ -14,11 +16,12 @@ bool hasPlugin(const QString& platform) {
     return !folder.entryList({"libq" + platform + "*"}, QDir::Files).isEmpty();
 }
 
+/// The connection stays open: an X server that serves nobody else starts anew when its last client leaves, and would
+/// refuse the application meanwhile.
 bool reachesXServer() {
-    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    const bool good = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return good;
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(xcb_connect(nullptr, nullptr),
+                                                                                         &xcb_disconnect);
+    return xcb_connection_has_error(connection.get()) == 0;
 }
 
 /// Whether the platform, a name with options behind a colon, can show a window.

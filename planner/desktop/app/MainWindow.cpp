@@ -112,7 +112,7 @@ void MainWindow::restoreLayout() {
 
 QStringList MainWindow::open(const Options& options) {
     if (options.plan) {
-        const QStringList faults = session_->open(QString::fromStdString(*options.plan));
+        QStringList faults = session_->open(QString::fromStdString(*options.plan));
         if (!faults.isEmpty()) {
             return faults;
         }

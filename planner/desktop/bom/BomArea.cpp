@@ -31,6 +31,7 @@ QTabWidget* BomArea::makeGroup() {
 
 std::vector<QTabWidget*> BomArea::groups() const {
     std::vector<QTabWidget*> groups;
+    groups.reserve(static_cast<std::size_t>(splitter_->count()));
     for (int index = 0; index < splitter_->count(); ++index) {
         groups.push_back(static_cast<QTabWidget*>(splitter_->widget(index)));
     }

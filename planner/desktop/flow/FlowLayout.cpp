@@ -36,8 +36,9 @@ void placeLoose(const std::vector<int>& loose, const QRectF& linked, FlowLayout&
     const QPointF first =
         linked.isNull() ? QPointF() : linked.bottomLeft() + QPointF(kBoxSize.width(), stepY + kGap.height()) / 2;
     for (std::size_t i = 0; i < loose.size(); ++i) {
-        layout.centres[loose[i]] =
-            first + QPointF(static_cast<double>(i % columns) * stepX, static_cast<double>(i / columns) * stepY);
+        const auto column = static_cast<double>(i % columns);
+        const std::size_t row = i / columns;
+        layout.centres[loose[i]] = first + QPointF(column * stepX, static_cast<double>(row) * stepY);
     }
 }
 

@@ -134,8 +134,11 @@ void PlanCommands::runAddStep() {
 
 void PlanCommands::runAddInside() {
     ModelObject* const present = choice_.present();
-    Behaviour* const behaviour = behaviourOf(present);
-    addStepTo(behaviour ? *behaviour : static_cast<FlowObject&>(*present), nullptr);
+    if (Behaviour* const behaviour = behaviourOf(present)) {
+        addStepTo(*behaviour, nullptr);
+    } else if (present) {
+        addStepTo(static_cast<FlowObject&>(*present), nullptr);
+    }
 }
 
 void PlanCommands::runAddResource() {

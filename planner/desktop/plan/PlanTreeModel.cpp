@@ -128,6 +128,7 @@ void PlanTreeModel::removeNodes(Node& above, std::size_t first, std::size_t coun
 void PlanTreeModel::insertNodes(Node& above, std::size_t first, const std::vector<PlanRow>& rows) {
     beginInsertRows(indexOf(above), static_cast<int>(first), static_cast<int>(first + rows.size() - 1));
     std::vector<std::unique_ptr<Node>> nodes;
+    nodes.reserve(rows.size());
     for (const PlanRow& row : rows) {
         nodes.push_back(makeNode(row, above));
     }

@@ -42,7 +42,7 @@ Handle(Prs3d_LineAspect) edges() {
 }
 
 Handle(Prs3d_Drawer) filled(std::uint32_t colour) {
-    const Handle(Prs3d_Drawer) style = new Prs3d_Drawer();
+    Handle(Prs3d_Drawer) style = new Prs3d_Drawer();
     style->SetMethod(Aspect_TOHM_COLOR);
     style->SetColor(rgb(colour));
     style->SetDisplayMode(AIS_Shaded);
