@@ -70,7 +70,7 @@ void VXMFlowWalk::VisitChild(const QORBaseUnknown_var& iChild, Standalone iStand
     }
     VXMFabFlowNode* node = nullptr;
     MakeNode(first, _level + 1, NullNode::Registered, node);
-    first = nullptr;
+    first = nullptr; // the node holds the item now; the walk below may go deep
     const VXMChildVisits::Visit visit(computation.childVisits, iChild.Impl(), objects());
     WalkOn(_previous, node, _level + 1);
 }

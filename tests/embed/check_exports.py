@@ -92,7 +92,7 @@ def main():
     declared = set(demangled(name for prefix in arguments.names
                              for declaration in declarations(arguments.clang, options, headers, prefix)
                              for name in symbols_of(declaration)))
-    rows = [line.split()[-2:] for line in run([arguments.nm, "-D", "--defined-only", arguments.library]).splitlines()]
+    rows = [line.split()[-2:] for line in run([arguments.nm, "-D", "--defined-only", arguments.shared]).splitlines()]
     rows = [(kind, *name.split("@@")) for kind, name in rows if name.split("@")[0] != arguments.version]
     exported = set(demangled(name for _, name, *_ in rows))
     faults = [f'exported, though no header offers it: "{name}";' for name in sorted(exported - declared)]

@@ -128,7 +128,7 @@ void Scene::erase(Shown& shown) {
 /// Key of the prototype, which is there afterwards.
 std::string Scene::prototypeOf(QORBaseUnknown& object, const QORGeoShape& shape) {
     const Look look = lookOf(object);
-    const std::string key = std::to_string(static_cast<int>(look)) + ShapeStore::keyOf(shape);
+    std::string key = std::to_string(static_cast<int>(look)) + ShapeStore::keyOf(shape);
     if (!prototypes_.contains(key)) {
         const auto solid = graphics_->shapes().solid(shape);
         const bool isOfFile = shape.kind == QORGeoShape::StepFile; // whose folder and time are no matter of colour
