@@ -1,7 +1,7 @@
 """Compares what a library lets out with what its headers declare: public and protected operations that aren't inline,
 what derived classes and inline code need besides, type data, all of one version, and nothing else.
 
-    python3 check_exports.py --clang CLANG --nm NM --library LIBRARY --version NODE --include FOLDER --headers FOLDER
+    python3 check_exports.py --clang CLANG --nm NM --built LIBRARY --version NODE --include FOLDER --headers FOLDER
                              --names PREFIX...
 
 Classes and functions count when they are exported (VXM_EXPORT, QOR_EXPORT) and a header in that folder declares them.
@@ -77,7 +77,7 @@ def symbols_of(declaration):
 
 def main():
     parser = argparse.ArgumentParser()
-    for option in ("--clang", "--nm", "--library", "--version", "--include", "--headers"):
+    for option in ("--clang", "--nm", "--built", "--version", "--include", "--headers"):
         parser.add_argument(option, required=True)
     # What the names of its classes and functions begin with; a syntax tree of everything would be far larger.
     parser.add_argument("--names", nargs="+", required=True)
@@ -92,7 +92,7 @@ def main():
     declared = set(demangled(name for prefix in arguments.names
                              for declaration in declarations(arguments.clang, options, headers, prefix)
                              for name in symbols_of(declaration)))
-    rows = [line.split()[-2:] for line in run([arguments.nm, "-D", "--defined-only", arguments.shared]).splitlines()]
+    rows = [line.split()[-2:] for line in run([arguments.nm, "-D", "--defined-only", arguments.built]).splitlines()]
     rows = [(kind, *name.split("@@")) for kind, name in rows if name.split("@")[0] != arguments.version]
     exported = set(demangled(name for _, name, *_ in rows))
     faults = [f'exported, though no header offers it: "{name}";' for name in sorted(exported - declared)]
