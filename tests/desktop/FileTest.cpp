@@ -105,13 +105,13 @@ struct RunCase {
 };
 
 TEST(FileTest, TheProgramSaysWhyItCannotShowAWindow) {
-    const RunCase cases[] = {
-        {"no display", {}, {"DISPLAY="}, 2, "DISPLAY is not set"},
-        {"a display that isn't there", {}, {"DISPLAY=:4711"}, 2, ":4711"},
-        {"a platform that isn't there", {}, {"QT_QPA_PLATFORM=nix"}, 2, "nix"},
-        {"no file", {"nowhere.plan.json", "--screenshot", "x.png"}, {}, 2, "nowhere.plan.json"},
-        {"no root", {EXAMPLES "/robot-cell.plan.json", "--root", "nix", "--screenshot", "x.png"}, {}, 2, "\"nix\""},
-        {"no mode", {"--mode", "4"}, {}, 2, "--mode"}};
+    const char* const plan = EXAMPLES "/robot-cell.plan.json";
+    const RunCase cases[] = {{"no display", {}, {"DISPLAY="}, 2, "DISPLAY is not set"},
+                             {"a display that isn't there", {}, {"DISPLAY=:4711"}, 2, ":4711"},
+                             {"a platform that isn't there", {}, {"QT_QPA_PLATFORM=nix"}, 2, "nix"},
+                             {"no file", {"nowhere.plan.json", "--screenshot", "x.png"}, {}, 2, "nowhere.plan.json"},
+                             {"no root", {plan, "--root", "nix", "--screenshot", "x.png"}, {}, 2, "\"nix\""},
+                             {"no mode", {"--mode", "4"}, {}, 2, "--mode"}};
     for (const RunCase& each : cases) {
         QProcess process;
         process.setEnvironment(QProcess::systemEnvironment() + each.environment);
