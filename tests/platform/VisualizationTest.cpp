@@ -208,6 +208,7 @@ TEST_F(Showing, PublishesChangesOfASet) {
     AddCallback(&reader, &set_, QORXSO::CHANGED(), &Reader::onChange, nullptr);
     std::vector<Block> blocks(100000);
     std::vector<QORBaseUnknown*> all;
+    all.reserve(blocks.size());
     for (Block& block : blocks) {
         all.push_back(&block);
     }
