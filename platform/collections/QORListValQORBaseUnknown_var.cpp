@@ -17,7 +17,7 @@ List::~QORListValQORBaseUnknown_var() = default;
 
 const QORBaseUnknown_var& List::operator[](int iPosition) const {
     static const QORBaseUnknown_var none;
-    return iPosition >= 1 && iPosition <= Size() ? _handles[iPosition - 1] : none;
+    return iPosition >= 1 && iPosition <= Size() ? _handles[static_cast<std::size_t>(iPosition) - 1] : none;
 }
 
 void List::Append(QORBaseUnknown_var iHandle) {
@@ -25,8 +25,8 @@ void List::Append(QORBaseUnknown_var iHandle) {
 }
 
 int List::Locate(const QORBaseUnknown_var& iHandle, int iFrom) const {
-    const auto begin = _handles.begin() + std::clamp(iFrom - 1, 0, Size());
-    const auto place = std::find(begin, _handles.end(), iHandle);
+    const auto* const begin = _handles.begin() + std::clamp(iFrom - 1, 0, Size());
+    const auto* const place = std::find(begin, _handles.end(), iHandle);
     return place == _handles.end() ? 0 : static_cast<int>(place - _handles.begin()) + 1;
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "QORPlatform/collections/QORFew.h"
 #include "QORPlatform/framework/QORObjectCounts.h"
 #include "QORPlatform/framework/QORVar.h"
 
 #include <string_view>
-#include <vector>
 
 /// List of counted handles, positions from 1. Who gets a list by pointer owns it:
 /// put it into a std::unique_ptr in the expression that receives it.
@@ -40,5 +40,5 @@ public:
 private:
     friend class QORCounted<QORListValQORBaseUnknown_var>;
 
-    std::vector<QORBaseUnknown_var> _handles;
+    QORFew<QORBaseUnknown_var> _handles; // most lists of a plan have one entry
 };

@@ -1,5 +1,6 @@
 #include "QORPlatform/dom/DOM_Document.h"
 
+#include "QORPlatform/dom/QORDomCall.h"
 #include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/dom/DOMElement.hpp>
@@ -15,7 +16,9 @@ DOM_Element DOM_Document::createElement(const DOMString& iTag) {
     if (isNull()) {
         return {};
     }
-    return {State(), State()->GetDocument().createElement(reinterpret_cast<const XMLCh*>(iTag.rawBuffer()))};
+    return QORDomCall([&]() -> DOM_Element {
+        return {State(), State()->GetDocument().createElement(reinterpret_cast<const XMLCh*>(iTag.rawBuffer()))};
+    });
 }
 
 DOM_Element DOM_Document::getDocumentElement() const {

@@ -10,7 +10,8 @@ public:
     /// A new document without any node.
     static DOM_Document createDocument();
 
-    /// A new element that belongs to this document and stands nowhere in it yet.
+    /// A new element that belongs to this document and stands nowhere in it yet. Raises QORDomError for
+    /// a tag that is no XML name.
     DOM_Element createElement(const DOMString& iTag);
 
     /// The top element, a null handle while there is none.

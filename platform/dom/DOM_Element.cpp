@@ -1,5 +1,7 @@
 #include "QORPlatform/dom/DOM_Element.h"
 
+#include "QORPlatform/dom/QORDomCall.h"
+
 #include <xercesc/dom/DOMElement.hpp>
 
 namespace {
@@ -15,7 +17,7 @@ DOM_Element::DOM_Element(const DOM_Node& iNode)
 
 void DOM_Element::setAttribute(const DOMString& iName, const DOMString& iValue) {
     if (auto* const element = static_cast<xercesc::DOMElement*>(Node())) {
-        element->setAttribute(Wide(iName), Wide(iValue));
+        QORDomCall([&] { element->setAttribute(Wide(iName), Wide(iValue)); });
     }
 }
 

@@ -10,6 +10,7 @@ public:
     /// The element that iNode is; a null handle when it is no element.
     explicit DOM_Element(const DOM_Node& iNode);
 
+    /// Sets the attribute's value. Raises QORDomError for a name that is no XML name.
     void setAttribute(const DOMString& iName, const DOMString& iValue);
 
     /// Value of the attribute, empty when there is none.

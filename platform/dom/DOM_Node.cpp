@@ -1,5 +1,6 @@
 #include "QORPlatform/dom/DOM_Node.h"
 
+#include "QORPlatform/dom/QORDomCall.h"
 #include "QORPlatform/dom/QORDomState.h"
 
 #include <xercesc/dom/DOMNode.hpp>
@@ -20,8 +21,9 @@ DOM_Node& DOM_Node::operator=(const DOM_Node& iOther) {
 }
 
 DOM_Node& DOM_Node::operator=(DOM_Node&& iOther) noexcept {
-    std::swap(_state, iOther._state);
-    std::swap(_node, iOther._node);
+    DOM_Node taken(std::move(iOther)); // what this one held is let go at once
+    std::swap(_state, taken._state);
+    std::swap(_node, taken._node);
     return *this;
 }
 
@@ -59,7 +61,10 @@ DOM_Node DOM_Node::appendChild(const DOM_Node& iChild) {
     if (!_node || !iChild._node) {
         return {};
     }
-    return {_state, _node->appendChild(iChild._node)};
+    if (iChild == *this) {
+        throw QORDomError("a node can't stand in itself"); // the XML library sees to all other ancestors
+    }
+    return QORDomCall([&]() -> DOM_Node { return {_state, _node->appendChild(iChild._node)}; });
 }
 
 int DOM_NodeList::getLength() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QORPlatform/dom/DOMString.h"
+#include "QORPlatform/dom/QORDomError.h"
 
 #include <xercesc/util/XercesDefs.hpp>
 
@@ -38,7 +39,8 @@ public:
     DOM_Node getNextSibling() const;
     DOM_NodeList getChildNodes() const;
 
-    /// Makes iChild, a node of the same document, the last child, and gives it.
+    /// Makes iChild, a node of the same document, the last child, and gives it. Raises QORDomError where it can't
+    /// stand.
     DOM_Node appendChild(const DOM_Node& iChild);
 
     friend bool operator==(const DOM_Node& iLeft, const DOM_Node& iRight) { return iLeft._node == iRight._node; }
@@ -53,6 +55,7 @@ protected:
 private:
     friend class DOM_NodeList;
     friend class DOM_Element;
+    friend class QORDomWriter;
 
     QORDomState* _state = nullptr;
     xercesc::DOMNode* _node = nullptr;

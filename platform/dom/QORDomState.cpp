@@ -1,9 +1,14 @@
 #include "QORPlatform/dom/QORDomState.h"
 
+#include "QORPlatform/dom/QORDomCall.h"
+#include "QORPlatform/dom/QORDomError.h"
+
 #include <xercesc/dom/DOMImplementation.hpp>
+#include <xercesc/util/PanicHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
+#include <xercesc/util/XMLUni.hpp>
 
 #include <stdexcept>
 #include <vector>
@@ -60,22 +65,45 @@ void ReplaceLoneHalves(std::u16string& ioWide) {
 } // namespace
 
 std::shared_ptr<QORXmlRuntime> QORXmlRuntime::Get() {
-    static const auto runtime = std::make_shared<QORXmlRuntime>();
+    // Held by itself: the library's end needs memory, so it mustn't come where there is none.
+    static const auto platform = std::make_shared<Platform>();
+    static const auto runtime = std::make_shared<QORXmlRuntime>(platform);
     return runtime;
 }
 
-QORXmlRuntime::QORXmlRuntime() {
-    xercesc::XMLPlatformUtils::Initialize();
+namespace {
+
+/// In the place of the library's own, which ends the process.
+class PanicHandler : public xercesc::PanicHandler {
+public:
+    void panic(const PanicReasons iReason) override { throw QORDomError(getPanicReasonString(iReason)); }
+};
+
+} // namespace
+
+QORXmlRuntime::Platform::Platform() {
+    static PanicHandler panicHandler;
+    static bool isBroken = false; // a start that failed halfway can neither be undone nor be tried again
+    if (isBroken) {
+        throw QORDomError("the XML library couldn't start in this process");
+    }
+    isBroken = true;
+    QORDomCall(
+        [] { xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &panicHandler); });
+    isBroken = false;
+}
+
+QORXmlRuntime::Platform::~Platform() {
+    xercesc::XMLPlatformUtils::Terminate();
+}
+
+QORXmlRuntime::QORXmlRuntime(std::shared_ptr<Platform> iPlatform) : _platform(std::move(iPlatform)) {
     xercesc::XMLTransService::Codes result{};
-    _utf8.reset(xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor("UTF-8", result, 4096));
+    QORDomCall(
+        [&] { _utf8.reset(xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor("UTF-8", result, 4096)); });
     if (!_utf8) {
         throw std::runtime_error("the XML library can't transcode UTF-8");
     }
-}
-
-QORXmlRuntime::~QORXmlRuntime() {
-    _utf8.reset();
-    xercesc::XMLPlatformUtils::Terminate();
 }
 
 std::u16string QORXmlRuntime::Widen(std::string_view iNarrow) {
@@ -113,7 +141,8 @@ char* QORXmlRuntime::Narrow(const XMLCh* iWide) {
     std::u16string wide(iWide);
     ReplaceLoneHalves(wide);
     const XMLSize_t room = 3 * wide.size() + 1;
-    auto* const narrow = static_cast<char*>(xercesc::XMLPlatformUtils::fgMemoryManager->allocate(room));
+    auto* const narrow =
+        static_cast<char*>(QORDomCall([room] { return xercesc::XMLPlatformUtils::fgMemoryManager->allocate(room); }));
     XMLSize_t done = 0;
     XMLSize_t filled = 0;
     while (done < wide.size()) {
@@ -128,7 +157,9 @@ char* QORXmlRuntime::Narrow(const XMLCh* iWide) {
 }
 
 QORDomState::QORDomState()
-    : _runtime(QORXmlRuntime::Get()), _document(xercesc::DOMImplementation::getImplementation()->createDocument()) {}
+    : _runtime(QORXmlRuntime::Get()),
+      _document(
+          QORDomCall([this] { return xercesc::DOMImplementation::getImplementation()->createDocument(&_memory); })) {}
 
 QORDomState::~QORDomState() {
     _document->release();

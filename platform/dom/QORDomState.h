@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QORPlatform/dom/QORDomMemory.h"
 #include "QORPlatform/framework/QORObjectCounts.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
@@ -13,10 +14,17 @@
 /// and every document one more, so that no handle outlives what it needs, static ones included.
 class QORXmlRuntime {
 public:
+    /// Initialised while this lives. When that fails, it fails from then on.
+    struct Platform {
+        Platform();
+        ~Platform();
+        Platform(const Platform&) = delete;
+        Platform& operator=(const Platform&) = delete;
+    };
+
     static std::shared_ptr<QORXmlRuntime> Get();
 
-    QORXmlRuntime();
-    ~QORXmlRuntime();
+    explicit QORXmlRuntime(std::shared_ptr<Platform> iPlatform);
     QORXmlRuntime(const QORXmlRuntime&) = delete;
     QORXmlRuntime& operator=(const QORXmlRuntime&) = delete;
 
@@ -30,6 +38,7 @@ public:
 private:
     bool TryWiden(std::string_view iNarrow, std::u16string& oWide);
 
+    std::shared_ptr<Platform> _platform;
     std::unique_ptr<xercesc::XMLTranscoder> _utf8;
 };
 
@@ -53,6 +62,7 @@ private:
     friend class QORCounted<QORDomState>;
 
     std::shared_ptr<QORXmlRuntime> _runtime;
+    QORDomMemory _memory; // ends after the document
     xercesc::DOMDocument* _document;
     int _references = 1;
 };

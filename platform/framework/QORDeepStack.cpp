@@ -16,8 +16,15 @@
 #include <ucontext.h>
 #include <unistd.h>
 
-#if defined(__SANITIZE_ADDRESS__)
+// What g++ says of itself, and what clang is asked.
+#ifdef __SANITIZE_ADDRESS__
 #define QOR_SWITCHES_ARE_ANNOUNCED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define QOR_SWITCHES_ARE_ANNOUNCED 1
+#endif
+#endif
+#ifdef QOR_SWITCHES_ARE_ANNOUNCED
 #include <sanitizer/common_interface_defs.h>
 #endif
 
@@ -76,8 +83,13 @@ private:
     void* _memory;
 };
 
+/// The thread's store of segments. Its room is made beforehand: what comes back from a segment mustn't fail.
 std::vector<Segment>& KeptSegments() {
-    thread_local std::vector<Segment> kept;
+    thread_local std::vector<Segment> kept = [] {
+        std::vector<Segment> room;
+        room.reserve(kKeptSegments);
+        return room;
+    }();
     return kept;
 }
 

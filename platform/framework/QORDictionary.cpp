@@ -9,6 +9,7 @@ QORDictionary& QORDictionary::Get() {
 }
 
 void QORDictionary::Register(QORMetaClass& iClass) {
+    ++_change;
     _classes[iClass.GetName()] = &iClass;
     const auto place = _placeholders.find(iClass.GetName());
     if (place == _placeholders.end()) {
@@ -23,6 +24,7 @@ void QORDictionary::Register(QORMetaClass& iClass) {
 }
 
 void QORDictionary::Unregister(const QORMetaClass& iClass) {
+    ++_change;
     const auto place = _classes.find(iClass.GetName());
     if (place != _classes.end() && place->second == &iClass) {
         _classes.erase(place);
@@ -37,6 +39,7 @@ void QORDictionary::Unregister(const QORMetaClass& iClass) {
 }
 
 void QORDictionary::AddExtension(const std::string& iType, QORMetaClass& iExtension) {
+    ++_change;
     _extensions[iType].push_back(&iExtension);
 }
 
@@ -53,6 +56,7 @@ QORMetaClass* QORDictionary::FindOrPlace(const std::string& iName) {
     if (QORMetaClass* known = FindClass(iName)) {
         return known;
     }
+    ++_change;
     auto& placed = _placeholders[iName];
     placed = std::make_unique<QORMetaClass>(iName.c_str(), ENUMTypeOfClass::Placeholder, QORMetaClass::OfBaseUnknown(),
                                             "QORNull", "", nullptr);
@@ -65,15 +69,18 @@ bool QORDictionary::IsBase(const QORMetaClass& iClass) const {
 }
 
 void QORDictionary::DropUnusedPlaceholders() {
+    ++_change;
     std::erase_if(_placeholders,
                   [this](const auto& iPlaced) { return !KnowsBindingsOf(iPlaced.first) && !IsBase(*iPlaced.second); });
 }
 
 void QORDictionary::Bind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {
+    ++_change;
     _bindings[iClass].push_back({iInterface, iFactory});
 }
 
 void QORDictionary::Unbind(const std::string& iClass, const QORInterfaceID& iInterface, QORForwarderFactory iFactory) {
+    ++_change;
     const auto place = _bindings.find(iClass);
     if (place == _bindings.end()) {
         return;

@@ -46,6 +46,9 @@ public:
     /// Whether any interface is bound to that class, or any extension made for it.
     bool KnowsBindingsOf(const std::string& iClass) const;
 
+    /// A number that is another one after each change of what is entered.
+    unsigned long GetChange() const { return _change; }
+
     /// Everything that is entered at present, a line each ("class X", "bound X Y", "extended X Y"), sorted: what a
     /// library has added, and that it took everything along.
     std::vector<std::string> Report() const;
@@ -63,6 +66,7 @@ private:
     std::unordered_map<std::string, std::unique_ptr<QORMetaClass>> _placeholders;
     std::unordered_map<std::string, std::vector<QORMetaClass*>> _extensions;
     std::unordered_map<std::string, std::vector<Binding>> _bindings;
+    unsigned long _change = 1;
 };
 
 /// Binds an interface to a class for as long as this object lives: a static object in the library of the class. A null

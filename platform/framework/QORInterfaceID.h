@@ -29,3 +29,7 @@ private:
     std::string_view _name;
     std::uint64_t _hash;
 };
+
+/// The identifier of an interface class, hashed when the program is compiled: a call of InterfaceID() may hash anew.
+template <class Interface>
+inline constexpr QORInterfaceID kQORInterfaceID = Interface::InterfaceID();

@@ -8,12 +8,21 @@ QORObjectParts::QORObjectParts(QORBaseUnknown& iObject) : _object(iObject) {}
 QORObjectParts::~QORObjectParts() = default;
 
 bool QORObjectParts::CanHold(const QORMetaClass& iClass) {
-    for (const QORMetaClass* meta = &iClass; meta; meta = meta->GetBase()) {
-        if (QORDictionary::Get().KnowsBindingsOf(meta->GetName())) {
-            return true;
+    // Failing casts come in rows, of objects of one class: the answer holds until the dictionary changes.
+    static struct {
+        const QORMetaClass* type = nullptr;
+        unsigned long change = 0;
+        bool canHold = false;
+    } latest;
+    const QORDictionary& dictionary = QORDictionary::Get();
+    if (latest.type != &iClass || latest.change != dictionary.GetChange()) {
+        bool canHold = false;
+        for (const QORMetaClass* meta = &iClass; meta && !canHold; meta = meta->GetBase()) {
+            canHold = dictionary.KnowsBindingsOf(meta->GetName());
         }
+        latest = {&iClass, dictionary.GetChange(), canHold};
     }
-    return false;
+    return latest.canHold;
 }
 
 QORBaseUnknown* QORObjectParts::FindForwarder(const QORInterfaceID& iInterface) {

@@ -34,7 +34,7 @@ QORStatus QORAnswer(const QORInterfaceID& iInterface, void** oInterface, Ties&..
         return QOR_FAILED;
     }
     QORBaseUnknown* found = nullptr;
-    ((Ties::InterfaceID() == iInterface && (found = &iTies)) || ...);
+    ((kQORInterfaceID<Ties> == iInterface && (found = &iTies)) || ...);
     *oInterface = found;
     if (!found) {
         return QOR_NO_INTERFACE;

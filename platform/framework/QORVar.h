@@ -72,7 +72,7 @@ private:
             return iObject;
         } else {
             void* found = nullptr;
-            return iObject->QueryInterface(T::InterfaceID(), &found) < 0 ? nullptr : static_cast<T*>(found);
+            return iObject->QueryInterface(kQORInterfaceID<T>, &found) < 0 ? nullptr : static_cast<T*>(found);
         }
     }
 

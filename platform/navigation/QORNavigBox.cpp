@@ -68,10 +68,11 @@ QORStatus QORNavigBox::AddRoot(const QORBaseUnknown_var& iRoot) {
         return QOR_FAILED;
     }
     const int position = GetRootCount() + 1;
+    _roots.reserve(position);
     RowsAboutToCome(nullptr, position, position);
     ++_rootsAdded;
+    made->PlaceBelow(nullptr, position);
     _roots.push_back(std::move(made));
-    _roots.back()->PlaceBelow(nullptr, position);
     RowsCame(nullptr, position, position);
     return QOR_OK;
 }
@@ -82,6 +83,14 @@ void QORNavigBox::RemoveAllRoots() {
     if (!_roots.empty()) {
         TakeOut(nullptr, 1, GetRootCount());
     }
+    if (_roots.empty()) {
+        _shown.clear(); // of what was about to come and didn't
+    }
+}
+
+bool QORNavigBox::IsShown(const QORBaseUnknown_var& iObject) const {
+    const auto place = _shown.find(iObject.Impl());
+    return place != _shown.end() && place->second > 0;
 }
 
 /// Takes rows out, below iParent or among the roots, with all that is below them.
@@ -103,7 +112,8 @@ void QORNavigBox::TakeOut(QORNavigInstance* iParent, int iFirst, int iLast) {
 
 QORVar<QORNavigInstance> QORNavigBox::MakeInstance(const QORBaseUnknown_var& iObject, int iDepth, int iOrdinal) {
     auto made = QORVar<QORNavigInstance>::Adopt(new QORNavigInstance(*this, iDepth, iObject, iOrdinal));
-    made->Update();
+    _shown.try_emplace(iObject.Impl(), 0); // so that what comes needs no memory any more
+    made->Update();                        // whoever is asked may end the box
     return made;
 }
 

@@ -105,7 +105,7 @@ public:
     static const char* SELECTION_CHANGED() { return "QORNavigBoxSelectionChanged"; }
 
     /// Whether an object is shown anywhere in the box.
-    bool IsShown(const QORBaseUnknown_var& iObject) const { return _shown.count(iObject.Impl()) != 0; }
+    bool IsShown(const QORBaseUnknown_var& iObject) const;
 
     /// What a person does; the node's extension is told afterwards. Nothing happens for what has left the tree
     /// meanwhile. iExtend adds the node to the selection, or takes it out of it, where the controller allows more than
@@ -164,7 +164,8 @@ private:
     std::unique_ptr<QORNavigController> _controller;
     std::unique_ptr<QORGraphViewer> _graphViewer;
     Instances _roots;
-    std::unordered_map<QORBaseUnknown*, int> _shown; // implementations, with the number of their instances
+    std::unordered_map<QORBaseUnknown*, int> _shown; // implementations, with the number of their instances; 0
+                                                     // for one that is about to come
     std::unordered_set<QORNavigInstance*> _selected;
     bool _isSelectionToBeTold = false;
     int _portion = kQORPortionAll;

@@ -119,22 +119,23 @@ void QORNavigInstance::TakeIn(Instances iMade) {
     }
     const int before = GetChildCount();
     const int after = before + static_cast<int>(iMade.size());
+    _children.reserve(after); // whoever is told of rows that come can count on them
     GetBox()->RowsAboutToCome(this, before + 1, after);
     if (!GetBox()) {
         return;
     }
     int position = before;
     for (auto& child : iMade) {
+        child->PlaceBelow(this, ++position);
         _children.push_back(std::move(child));
-        _children.back()->PlaceBelow(this, ++position);
     }
     GetBox()->RowsCame(this, before + 1, after);
 }
 
 void QORNavigInstance::PlaceBelow(QORNavigInstance* iParent, int iPosition) {
+    GetBox()->Entered(*this);
     _parent = iParent;
     _position = iPosition;
-    GetBox()->Entered(*this);
 }
 
 void QORNavigInstance::Collapse() {
@@ -195,25 +196,64 @@ void QORNavigInstance::Remove() {
 }
 
 void QORNavigInstance::TakeOut(Instances& ioSiblings, int iFirst, int iLast) {
-    // A stack of its own, since a person may have opened any number of levels.
+    const bool isAll = iFirst == 1 && iLast == static_cast<int>(ioSiblings.size());
     const auto first = ioSiblings.begin() + (iFirst - 1);
-    const auto last = ioSiblings.begin() + iLast;
-    Instances leaving(std::make_move_iterator(first), std::make_move_iterator(last));
-    ioSiblings.erase(first, last);
+    Instances leaving;
+    if (isAll) {
+        leaving.swap(ioSiblings); // a box that ends can't count on memory
+    } else {
+        leaving.assign(first, ioSiblings.begin() + iLast);
+        ioSiblings.erase(first, first + (iLast - iFirst + 1));
+    }
     for (int i = iFirst - 1; i < static_cast<int>(ioSiblings.size()); ++i) {
         ioSiblings[i]->_position = i + 1;
     }
-    while (!leaving.empty()) {
-        const QORVar<QORNavigInstance> instance = std::move(leaving.back());
-        leaving.pop_back();
-        std::move(instance->_children.begin(), instance->_children.end(), std::back_inserter(leaving));
-        instance->_children.clear();
+    for (const QORVar<QORNavigInstance>& instance : leaving) {
+        instance->LeaveBox();
+    }
+    for (const QORVar<QORNavigInstance>& instance : leaving) {
+        instance->DropBelow();
+    }
+}
+
+/// Takes an instance and all below it out of the box. A person may have opened any number of levels, so this goes by
+/// the places of the instances and not by calls in calls.
+void QORNavigInstance::LeaveBox() {
+    const QORNavigInstance* const top = this;
+    QORNavigInstance* instance = this;
+    while (instance) {
         if (QORNavigBox* const box = instance->GetBox()) {
-            box->Left(*instance.Get());
+            box->Left(*instance);
         }
-        instance->_parent = nullptr;
-        instance->_position = 0;
-        instance->_expanded = false;
         instance->_box = QORWatch<QORNavigBox>();
+        instance->_expanded = false;
+        instance = instance->_children.empty() ? instance->NextBelow(*top) : instance->_children.front().Get();
+    }
+    _parent = nullptr;
+    _position = 0;
+}
+
+/// The instance that follows on this one and what is below it, null for the last below iTop.
+QORNavigInstance* QORNavigInstance::NextBelow(const QORNavigInstance& iTop) const {
+    const QORNavigInstance* instance = this;
+    while (instance != &iTop && instance->_position == instance->_parent->GetChildCount()) {
+        instance = instance->_parent;
+    }
+    return instance == &iTop ? nullptr : instance->_parent->_children[instance->_position].Get();
+}
+
+/// Lets all go that is below an instance that has left, the lowest first.
+void QORNavigInstance::DropBelow() {
+    QORNavigInstance* instance = this;
+    while (instance != this || !_children.empty()) {
+        if (!instance->_children.empty()) {
+            instance = instance->_children.back().Get();
+            continue;
+        }
+        instance = instance->_parent;
+        const QORVar<QORNavigInstance> lowest = std::move(instance->_children.back());
+        instance->_children.pop_back();
+        lowest->_parent = nullptr;
+        lowest->_position = 0;
     }
 }

@@ -95,6 +95,9 @@ private:
     void PlaceBelow(QORNavigInstance* iParent, int iPosition);
     void NodeChanged();
     static void TakeOut(Instances& ioSiblings, int iFirst, int iLast);
+    void LeaveBox();
+    QORNavigInstance* NextBelow(const QORNavigInstance& iTop) const;
+    void DropBelow();
 
     QORWatch<QORNavigBox> _box;
     QORNavigInstance* _parent = nullptr;

@@ -69,8 +69,14 @@ long QOREventSubscriber::Subscribe(QOREventSubscriber* iSubscriber, const char* 
         return kQORNoCallback;
     }
     const long handle = nextHandle++;
-    _subscriptions.emplace(handle, std::make_shared<Subscription>(Subscription{iSubscriber, iEvent, std::move(iCall)}));
-    iSubscriber->_publishers.emplace(handle, this);
+    const auto made = iSubscriber->_publishers.emplace(handle, this).first;
+    try {
+        _subscriptions.emplace(handle,
+                               std::make_shared<Subscription>(Subscription{iSubscriber, iEvent, std::move(iCall)}));
+    } catch (...) {
+        iSubscriber->_publishers.erase(made); // both know of it, or none
+        throw;
+    }
     SubscriptionsChanged();
     return handle;
 }

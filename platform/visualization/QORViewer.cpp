@@ -61,8 +61,7 @@ QORStatus QORViewer::AddViewpoint(QORViewpoint* iViewpoint, int iPlacement) {
     if (!iViewpoint || iViewpoint->_viewer) {
         return QOR_FAILED;
     }
-    _viewpoints.push_back({QORVar<QORViewpoint>(), iPlacement, nullptr});
-    _viewpoints.back().viewpoint = QORVar<QORViewpoint>::Adopt(iViewpoint);
+    _viewpoints.push_back({QORVar<QORViewpoint>::Adopt(iViewpoint), iPlacement, nullptr});
     iViewpoint->_viewer = this;
     if (_peer) {
         _peer->ViewpointAdded(*iViewpoint);

@@ -37,7 +37,7 @@ public:
     QORViewpoint* GetMain3DViewpoint() const { return _main3DViewpoint; }
 
     /// Takes a viewpoint over, the caller's reference with it. Negative for null and for one that a viewer has; the
-    /// reference is the caller's then.
+    /// reference is the caller's then. Where it raises, the reference has been taken over.
     QORStatus AddViewpoint(QORViewpoint* iViewpoint, int iPlacement);
 
     /// Lets a viewpoint go, with all that is shown in it. Negative for null, for one that isn't here, and for the main

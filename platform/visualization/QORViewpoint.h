@@ -39,7 +39,7 @@ public:
 
 /// From where a scene in space is looked at, in millimetres.
 struct QORCamera {
-    double eye[3] = {1000, -1000, 1000};
+    double eye[3] = {600, -1000, 500};
     double target[3] = {0, 0, 0}; ///< what the eye looks at, in the middle of the picture
     double up[3] = {0, 0, 1};     ///< points upwards in the picture; any length but 0
     double height = 1000;         ///< of what is seen at the target, from the lower to the upper edge

@@ -41,6 +41,40 @@ TEST(RawCollection, RemovesTheFirstOfAValueAndNothingOutside) {
     EXPECT_EQ(QORRawCollPV()[1], nullptr);
 }
 
+TEST(Few, EqualsAVector) {
+    QORBaseUnknown object;
+    std::mt19937 random(1);
+    for (int round = 0; round < 500; ++round) {
+        QORFew<QORBaseUnknown_var, 2> few;
+        std::vector<QORBaseUnknown_var> plain;
+        for (int step = 0; step < 20; ++step) {
+            const std::size_t place = plain.empty() ? 0 : random() % plain.size();
+            switch (random() % 6) {
+            case 0:
+                few = QORFew<QORBaseUnknown_var, 2>(few);
+                break;
+            case 1:
+                few = QORFew<QORBaseUnknown_var, 2>(std::move(few));
+                break;
+            case 2:
+                if (!plain.empty()) {
+                    few.erase(few.begin() + place);
+                    plain.erase(plain.begin() + static_cast<std::ptrdiff_t>(place));
+                }
+                break;
+            default:
+                few.push_back(random() % 2 == 0 ? QORBaseUnknown_var(&object) : QORBaseUnknown_var());
+                plain.push_back(few[few.size() - 1]);
+            }
+            ASSERT_TRUE(std::equal(few.begin(), few.end(), plain.begin(), plain.end()));
+        }
+        few.clear();
+        plain.clear();
+        ASSERT_TRUE(few.empty());
+        ASSERT_EQ(object.GetReferenceCount(), 1);
+    }
+}
+
 TEST(HandleList, CountsOnWhatIsInIt) {
     QORBaseUnknown one;
     const QORBaseUnknown_var object(&one);

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <utility>
@@ -121,6 +122,31 @@ TEST(DomHandle, OfNothingGivesNothing) {
     EXPECT_EQ(element.getAttribute("a").length(), 0);
     EXPECT_EQ(element.getChildNodes().getLength(), 0);
     EXPECT_EQ(element.getNodeType(), 0);
+}
+
+TEST(DomDocument, RefusesWhatItCantHoldAndStaysAsItIs) {
+    DOM_Element top = topWith({"a"});
+    DOM_Document document = DOM_Document::createDocument();
+    document.appendChild(document.createElement("own"));
+    const std::function<void()> cases[] = {
+        [&] { document.createElement("no name"); },
+        [&] { document.createElement(""); },
+        [&] { top.setAttribute("<", "value"); },
+        [&] { top.getFirstChild().appendChild(top); },
+        [&] { top.appendChild(top); },
+        [&] { top.appendChild(document.getDocumentElement()); },
+        [&] { document.appendChild(document.createElement("second")); },
+    };
+    for (const auto& refused : cases) {
+        try {
+            refused();
+            ADD_FAILURE() << "case " << &refused - cases << " was taken";
+        } catch (const QORDomError& error) {
+            EXPECT_STRNE(error.what(), "") << "case " << &refused - cases;
+        }
+    }
+    EXPECT_EQ(top.getChildNodes().getLength(), 1);
+    EXPECT_EQ(document.getChildNodes().getLength(), 1);
 }
 
 TEST(DomHandleDeathTest, MayOutliveEverything) {
