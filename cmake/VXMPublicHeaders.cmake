@@ -8,8 +8,10 @@ set(public_headers
     VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h
     VXMBomInfrastructure/generation/StrX.h
     VXMBomInfrastructure/generation/VXMBomGenerator.h
+    VXMBomInfrastructure/generation/VXMBomRecorder.h
     VXMBomInfrastructure/generation/VXMHandleOrder.h
     VXMBomInfrastructure/generation/VXMMakeBomGenerator.h
+    VXMBomInfrastructure/generation/VXMTooManyNodes.h
     VXMBomInfrastructure/navigation/VXMBomNavObject.h
     VXMBomInfrastructure/navigation/VXMPFNavigModifyMBOMObject.h
     VXMBomInfrastructure/nodes/VXMFabMBOMNode.h

@@ -1,20 +1,60 @@
 #include "VXMBomInfrastructure/generation/VXMBackwardWalk.h"
 
-VXMBackwardWalk::OnPath::OnPath(VXMBackwardWalk& ioWalk, const VXMFabFlowNode& iStep)
-    : _walk(ioWalk), _number(ioWalk._numbers.NumberOf(iStep)) {
+#include "VXMBomInfrastructure/generation/VXMFlowLists.h"
+
+#include <algorithm>
+#include <utility>
+
+void VXMBackwardWalk::Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild, Calls iCalls) {
+    _showsCalls = iCalls == Calls::Shown;
+    _graph.emplace(_numbers, iEnd, [&](VXMFabFlowNode& iStep) {
+        return _showsCalls || std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
+                   return (iStep.*iList.count)() > 0 && iBuild.takes(iStep, iList.type);
+               });
+    });
+    if (_graph->IsTree()) {
+        return;
+    }
+    _paths.emplace(*_graph, _numbers.NumberOf(iEnd), iBuild);
+    if (_paths->IsThinned()) {
+        _next.emplace(*_paths);
+    } else {
+        _paths.reset();
+    }
+}
+
+VXMBackwardWalk::Visit::Visit(VXMBackwardWalk& ioWalk, VXMFabFlowNode& iStep)
+    : _walk(ioWalk), _step(iStep), _number(ioWalk._numbers.NumberOf(iStep)),
+      _thinned(std::exchange(ioWalk._next, std::nullopt)) {
     if (_number >= static_cast<int>(_walk._isOnPath.size())) {
         _walk._isOnPath.resize(_walk._numbers.Size(), false);
     }
     _walk._isOnPath[_number] = true;
 }
 
-bool VXMBackwardWalk::Enters(const VXMFabFlowNode* iStep) {
-    if (!iStep) {
-        return true;
+VXMBackwardWalk::Visit::~Visit() {
+    _walk._isOnPath[_number] = false;
+}
+
+bool VXMBackwardWalk::Visit::GoesOn(VXMFabFlowNode*& oBefore) {
+    if (_thinned) {
+        _walk._next = _thinned->Next();
+        oBefore = _walk._next ? _walk._next->GetStep() : nullptr;
+        return oBefore != nullptr;
     }
-    const int number = _numbers.NumberOf(*iStep);
+    while (_position < _step.GetNumberOfPredecessors()) {
+        oBefore = _step.GetPredecessor(++_position);
+        if (!oBefore || _walk.Enters(*oBefore)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool VXMBackwardWalk::Enters(const VXMFabFlowNode& iStep) {
+    const int number = _numbers.NumberOf(iStep);
     if (number < static_cast<int>(_isOnPath.size()) && _isOnPath[number]) {
         return false;
     }
-    return !_fruitful || !_fruitful->MayPassOver(*iStep, _isOnPath);
+    return _showsCalls || !_graph || !_graph->MayPassOver(number, _isOnPath);
 }

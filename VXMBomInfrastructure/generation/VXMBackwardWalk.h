@@ -1,42 +1,56 @@
 #pragma once
 
-#include "VXMBomInfrastructure/index/VXMFruitfulSteps.h"
+#include "VXMBomInfrastructure/index/VXMManyPaths.h"
 
 #include <optional>
 #include <vector>
 
 /// A walk over the flow graph from its end towards its starts, by calls that call themselves for what comes before a
-/// step. Every step is taken once per path, in predecessor order. Knows the steps that are on the present path, so that
-/// loops end: none of them is entered again.
+/// step. In full form every step is taken once per path, in predecessor order; one that is on the present path isn't
+/// entered again, so that loops end. In thinned form only those paths are walked on which a node is kept.
 class VXMBackwardWalk {
 public:
+    using Form = VXMManyPaths::Form;
+
     explicit VXMBackwardWalk(const QORRawCollPV& iSteps) : _numbers(iSteps) {}
     VXMBackwardWalk(const VXMBackwardWalk&) = delete;
     VXMBackwardWalk& operator=(const VXMBackwardWalk&) = delete;
 
-    /// Lets the walk pass over steps from which it would reach nothing; iBringsProducts(node) tells of a step.
-    void PassOverFruitless(VXMFabFlowNode& iEnd, const std::function<bool(VXMFabFlowNode&)>& iBringsProducts) {
-        _fruitful.emplace(_numbers, iEnd, iBringsProducts);
-    }
+    /// Looks at what lies before the walk. A walk that shows every call enters steps also when it would reach nothing
+    /// from there. Raises VXMTooManyNodes.
+    enum class Calls { Shown, Hidden };
+    void Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild, Calls iCalls);
 
-    /// A step that is on the path for as long as this lives.
-    class OnPath {
+    /// A step that the walk takes, for as long as this lives.
+    class Visit {
     public:
-        OnPath(VXMBackwardWalk& ioWalk, const VXMFabFlowNode& iStep);
-        ~OnPath() { _walk._isOnPath[_number] = false; }
-        OnPath(const OnPath&) = delete;
-        OnPath& operator=(const OnPath&) = delete;
+        Visit(VXMBackwardWalk& ioWalk, VXMFabFlowNode& iStep);
+        ~Visit();
+        Visit(const Visit&) = delete;
+        Visit& operator=(const Visit&) = delete;
+
+        /// Asked once for each entry of the lists that are taken, in order: 0 when its node is to be made, else how
+        /// many nodes, with structure, are left out.
+        std::uint64_t LeavesOut() { return _thinned ? _thinned->LeavesOut() : 0; }
+
+        /// Whether the walk goes on to a further step before this one, and to which; it may be null.
+        bool GoesOn(VXMFabFlowNode*& oBefore);
 
     private:
         VXMBackwardWalk& _walk;
+        VXMFabFlowNode& _step;
         int _number;
+        int _position = 0;
+        std::optional<VXMManyPaths::Visit> _thinned;
     };
 
-    /// Whether the walk goes on to a step; to a null one it does.
-    bool Enters(const VXMFabFlowNode* iStep);
-
 private:
+    bool Enters(const VXMFabFlowNode& iStep);
+
     VXMStepNumbers _numbers;
     std::vector<bool> _isOnPath; // by step number
-    std::optional<VXMFruitfulSteps> _fruitful;
+    bool _showsCalls = true;
+    std::optional<VXMStepGraph> _graph;
+    std::optional<VXMManyPaths> _paths;       // of a walk in thinned form
+    std::optional<VXMManyPaths::Visit> _next; // likewise: the visit that begins next
 };

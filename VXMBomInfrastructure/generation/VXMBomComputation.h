@@ -12,10 +12,12 @@
 #include "VXMBomInfrastructure/index/VXMSiblingChains.h"
 #include "VXMBomInfrastructure/index/VXMStations.h"
 
+#include <cstdint>
 #include <optional>
 #include <utility>
 
 class VXMBomGenerator;
+class VXMBomRecorder;
 
 /// What a bill shows: the document, its top element, and the object behind every other element.
 struct VXMBomResult {
@@ -30,6 +32,7 @@ struct VXMBomComputation {
     VXMBomTree tree;
     VXMFlowGraph graph; // ends before the tree
     VXMBomResult result;
+    VXMBomRecorder* recorder = nullptr; // who hears of the nodes of this computation, null for nobody
 
     // While the model is walked.
     VXMChildVisits childVisits;
@@ -38,6 +41,8 @@ struct VXMBomComputation {
     std::optional<VXMFlowEnds> flowEnds;
 
     // While the tree is built, and while a pass goes over it.
+    std::uint64_t parts = 0;                                  // that stand below list entries
+    VXMBackwardWalk::Form form = VXMBackwardWalk::Form::Full; // of a walk that begins
     std::optional<VXMBackwardWalk> backwardWalk;
     std::optional<VXMSiblingChains> siblings;
     std::optional<VXMRepeatMarks> repeats;

@@ -8,10 +8,13 @@
 #include "QORPlatform/framework/QORModelIdentificator.h"
 #include "QORPlatform/framework/QORProcessServices.h"
 #include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 #include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
+#include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
 #include "VXMBomInfrastructure/model/VXMIMVWMBOMViewerSettingAtt.h"
 #include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -82,6 +85,10 @@ DOM_Document& VXMBomGenerator::GetBom(unsigned char iForce) {
     }
     const QORWork work;
     _state->Compute([this](VXMBomComputation& ioComputation) {
+        ioComputation.recorder = _state->recorder;
+        if (ioComputation.recorder) {
+            ioComputation.recorder->Begin();
+        }
         VXMBomResult& result = ioComputation.result;
         result.document = DOM_Document::createDocument();
         result.rootElement = result.document.createElement("BOM");
@@ -98,20 +105,25 @@ DOM_Document& VXMBomGenerator::GetBom(unsigned char iForce) {
 /// The two algorithms and the order of their passes.
 void VXMBomGenerator::State::BuildAndClean(VXMBomGenerator& ioGenerator) const {
     VXMBomGenerator& bom = ioGenerator;
-    VXMFabFlowNode* const end = bom.GetLastNodeInFlow(computation->graph.GetFirst());
+    VXMFabFlowNode* const end =
+        endOfFlow ? bom.CheckUse(endOfFlow) : bom.GetLastNodeInFlow(computation->graph.GetFirst());
     auto made = std::make_unique<VXMFabMBOMNode>(QORBaseUnknown_var(), 0, 0, VXMFabMBOMNode::AT_Top, 1);
     bom.AddMBOMNodeToList(made.get());
     VXMFabMBOMNode* const top = made.release();
     bom.SetTopNode(top);
+    // A trace hears of every node, as a recorder may, and the legacy tree has the paths in it.
+    const bool isRecordedWhole = computation->recorder && computation->recorder->WantsEveryNode() == 1;
+    const bool isFull = usesLegacyAlgorithm || VXMBomViewerTrace.IsActive() || isRecordedWhole;
+    computation->form = isFull ? VXMBackwardWalk::Form::Full : VXMBackwardWalk::Form::Thinned;
     usesLegacyAlgorithm ? bom.CreateOldMBOM(end, top, 1) : bom.CreateMBOM(end, top, 1);
+    computation->form = VXMBackwardWalk::Form::Full;
     bom.TraceMBOM1();
     bom.TraceMBOM2();
     bom.CleanMBOM_RemoveAssignments();
     bom.TraceMBOM2();
-    QORHashDico met(10);
-    usesLegacyAlgorithm ? bom.CleanMBOM_1(top, met) : bom.CleanMBOM_ProcessAssignments();
+    usesLegacyAlgorithm ? RemoveRepeats(bom, *top) : bom.CleanMBOM_ProcessAssignments();
     bom.TraceMBOM2();
-    usesLegacyAlgorithm ? bom.CleanMBOM_2(top) : bom.CleanMBOM_3(top, met);
+    usesLegacyAlgorithm ? bom.CleanMBOM_2(top) : RemoveRepeats(bom, *top);
     bom.TraceMBOM2();
 }
 
@@ -150,6 +162,22 @@ void VXMBomGenerator::State::Analyse(VXMBomGenerator& ioGenerator) {
 VXMFabFlowNode* VXMBomGenerator::GetLastNodeInFlow(VXMFabFlowNode* iNode) {
     std::optional<VXMFlowEnds>& ends = _state->computation->flowEnds; // while a walk runs
     return ends ? ends->Find(iNode) : VXMFlowEnds::Walk(iNode);
+}
+
+void VXMBomGenerator::SetEndOfFlow(const QORBaseUnknown_var& iStep) {
+    _state->endOfFlow = iStep;
+}
+
+void VXMBomGenerator::SetRecorder(VXMBomRecorder* iRecorder) {
+    _state->recorder = iRecorder;
+}
+
+void VXMBomGenerator::SetMaxNodes(long long iCount) {
+    _state->maxNodes = std::max(iCount, 0LL);
+}
+
+long long VXMBomGenerator::GetMaxNodes() const {
+    return _state->maxNodes;
 }
 
 VXMFabFlowNode* VXMBomGenerator::CheckUse(const QORBaseUnknown_var& iObject) {

@@ -10,6 +10,7 @@
 #include <memory>
 
 struct VXMBomComputation;
+class VXMBomRecorder;
 
 /// Derives the manufacturing bill of materials of one model object, the root: a document and a list of objects.
 ///
@@ -46,6 +47,23 @@ public:
 
     /// A new flow node for iItem with the number GetCounter, or null. The caller owns it until it is registered.
     virtual VXMFabFlowNode* CreateFlowNode(QORBaseUnknown_var iItem, const int iLevel) = 0;
+
+    // What a computation is to do, besides. Each holds for the computations that begin later.
+
+    /// Ends the flow at the step of iStep, an object that the walk makes a flow node for: the bill shows what is there
+    /// once that step is finished. Null for the end of the whole flow, as at first. The bill is empty when the step has
+    /// no flow node, which CheckUse tells afterwards.
+    void SetEndOfFlow(const QORBaseUnknown_var& iStep);
+
+    /// Tells iRecorder, which the caller owns and keeps alive, how the bill comes about; null for nobody, as at first.
+    void SetRecorder(VXMBomRecorder* iRecorder);
+
+    /// Bounds the nodes that a computation makes for steps that are reached on several paths; below 0 is 0. One that
+    /// would make more raises VXMTooManyNodes before it makes any. What a plan lists on one path only is never refused
+    /// for that. The parts of products are bounded likewise, but 65,536 of them are always made.
+    void SetMaxNodes(long long iCount);
+    long long GetMaxNodes() const;
+    static constexpr long long kMaxNodes = 20'000'000; ///< at first; they take some eight gigabytes
 
     // The computation.
 

@@ -12,6 +12,8 @@
 
 #include "QORPlatform/framework/QORDeepStack.h"
 #include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
+#include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
+#include "VXMBomInfrastructure/index/VXMByNumber.h"
 
 namespace {
 
@@ -72,6 +74,10 @@ unsigned char VXMBomGenerator::CheckPreviousAssignments(VXMFabMBOMNode* iNode) {
     if (!partner) {
         return 0;
     }
+    if (VXMBomRecorder* const recorder = _state->computation->recorder) {
+        recorder->NodeGoes(*partner, VXMBomRecorder::R_Paired, *iNode);
+        recorder->NodeGoes(*iNode, VXMBomRecorder::R_Paired, *partner);
+    }
     const int id = iNode->GetID();
     const bool isPartnerGone = RemoveNodeFromMBOMFlow(partner) == 1;
     const bool isNodeGone = RemoveNodeFromMBOMFlow(iNode) == 1;
@@ -83,8 +89,15 @@ unsigned char VXMBomGenerator::CheckPreviousFPAssignments(VXMFabMBOMNode* iNode)
     if (!iNode || !_state->computation->tree.IsAssigned(iNode->GetID())) {
         return 0;
     }
-    const bool isAssignedOtherwise = RemoveParallelProcessAssignment(iNode) || _state->HasRepeatBelow(*iNode);
-    return isAssignedOtherwise ? RemoveNodeFromMBOMFlow(iNode) : 0;
+    VXMFabMBOMNode* const beside = RemoveParallelProcessAssignment(iNode);
+    if (!beside && !_state->HasRepeatBelow(*iNode)) {
+        return 0;
+    }
+    if (VXMBomRecorder* const recorder = _state->computation->recorder) {
+        recorder->NodeGoes(*iNode, VXMBomRecorder::R_AssignedOtherwise,
+                           beside ? *beside : *RemoveProcessAssignment(iNode));
+    }
+    return RemoveNodeFromMBOMFlow(iNode);
 }
 
 // The search beside a node, under the two names that the passes have for it.
@@ -132,59 +145,133 @@ bool VXMBomGenerator::State::HasRepeatBelow(VXMFabMBOMNode& iNode) const {
 
 namespace {
 
-bool WasMet(const QORHashDico& iMet, const VXMFabMBOMNode& iNode) {
-    return iMet.Locate(iNode.GetIDString()) != nullptr;
-}
+/// The node of each product that was met first, by the IDs' texts: the public operations hand a dictionary on.
+class MetByText {
+public:
+    explicit MetByText(QORHashDico& ioMet) : _met(ioMet) {}
+    const VXMFabMBOMNode* Find(const VXMFabMBOMNode& iNode) const {
+        return static_cast<const VXMFabMBOMNode*>(_met.Locate(iNode.GetIDString()));
+    }
+    void Enter(VXMFabMBOMNode& iNode) { _met.Insert(iNode.GetIDString(), &iNode); }
 
-/// The loop of the three passes over repeats: each child that is removable and whose product was met goes; any other
-/// is entered into what was met and stays.
-template <class Remove, class Stay>
-void ThinOut(VXMFabMBOMNode& ioNode, QORHashDico& ioMet, Remove iRemove, Stay iStay) {
-    int count = ioNode.GetNumberOfSuccessors();
-    int position = 1;
-    while (position <= count) {
-        VXMFabMBOMNode* const child = ioNode.GetSuccessor(position);
-        if (child->IsRemovable() == 1 && WasMet(ioMet, *child)) {
-            iRemove(child);
-            --count;
-        } else {
-            ioMet.Insert(child->GetIDString(), child);
-            iStay(child);
-            ++position;
+private:
+    QORHashDico& _met;
+};
+
+/// The same by the numbers; see VXMByNumber.
+class MetByNumber {
+public:
+    const VXMFabMBOMNode* Find(const VXMFabMBOMNode& iNode) const { return _met.Get(iNode.GetID()); }
+    void Enter(const VXMFabMBOMNode& iNode) {
+        const VXMFabMBOMNode*& first = _met[iNode.GetID()];
+        first = first ? first : &iNode;
+    }
+
+    /// Forgets the products of the children of a node.
+    void ForgetChildren(const VXMFabMBOMNode& iNode) {
+        const int count = iNode.GetNumberOfSuccessors();
+        for (int position = 1; position <= count; ++position) {
+            _met[iNode.GetSuccessor(position)->GetID()] = nullptr;
         }
     }
-}
+
+private:
+    VXMByNumber<const VXMFabMBOMNode*> _met;
+};
+
+/// What the three passes over repeats are made of.
+template <class Met>
+class Thinning {
+public:
+    Thinning(VXMBomGenerator& ioGenerator, VXMBomRecorder* iRecorder, Met& ioMet)
+        : _generator(ioGenerator), _recorder(iRecorder), _met(ioMet) {}
+
+    /// Repeats go with all that is below them.
+    void Whole(VXMFabMBOMNode& ioNode) {
+        ThinOut(
+            ioNode, [this](VXMFabMBOMNode* iChild) { _generator.RemoveNodeAndChildrenFromMBOMFlow(iChild); },
+            [this](VXMFabMBOMNode* iChild) {
+                if (iChild->GetNumberOfSuccessors() > 0) {
+                    QORCallDeep([&] { Whole(*iChild); });
+                }
+            });
+    }
+
+    /// Repeats among the children go alone, deeper ones with all that is below them.
+    void Alone(VXMFabMBOMNode& ioNode) {
+        ThinOut(
+            ioNode, [this](VXMFabMBOMNode* iChild) { _generator.RemoveNodeFromMBOMFlow(iChild); },
+            [this](VXMFabMBOMNode* iChild) { Whole(*iChild); });
+    }
+
+    /// Repeats beside each other go, at every level. What was lifted stands at the end by then and has its own children
+    /// cleaned like the rest.
+    void Beside(VXMFabMBOMNode& ioNode) {
+        if (ioNode.GetNumberOfSuccessors() > 1) {
+            ThinOut(
+                ioNode, [this](VXMFabMBOMNode* iChild) { _generator.RemoveNodeFromMBOMFlow(iChild); },
+                [](VXMFabMBOMNode*) {});
+            _met.ForgetChildren(ioNode);
+        }
+        const int count = ioNode.GetNumberOfSuccessors();
+        for (int position = 1; position <= count; ++position) {
+            QORCallDeep([&] { Beside(*ioNode.GetSuccessor(position)); });
+        }
+    }
+
+private:
+    /// Each child that is removable and whose product was met goes; any other is entered into what was met and stays.
+    template <class Remove, class Stay>
+    void ThinOut(VXMFabMBOMNode& ioNode, Remove iRemove, Stay iStay) {
+        int count = ioNode.GetNumberOfSuccessors();
+        int position = 1;
+        while (position <= count) {
+            VXMFabMBOMNode* const child = ioNode.GetSuccessor(position);
+            const VXMFabMBOMNode* const met = child->IsRemovable() == 1 ? _met.Find(*child) : nullptr;
+            if (met) {
+                if (_recorder) {
+                    _recorder->NodeGoes(*child, VXMBomRecorder::R_Repeat, *met);
+                }
+                iRemove(child);
+                --count;
+            } else {
+                _met.Enter(*child);
+                iStay(child);
+                ++position;
+            }
+        }
+    }
+
+    VXMBomGenerator& _generator;
+    VXMBomRecorder* _recorder;
+    Met& _met;
+};
 
 } // namespace
 
 void VXMBomGenerator::CleanMBOM_3(VXMFabMBOMNode* iNode, QORHashDico& ioMet) {
     if (iNode) {
-        ThinOut(
-            *iNode, ioMet, [this](VXMFabMBOMNode* iChild) { RemoveNodeAndChildrenFromMBOMFlow(iChild); },
-            [&](VXMFabMBOMNode* iChild) { QORCallDeep([&] { CleanMBOM_3(iChild, ioMet); }); });
+        MetByText met(ioMet);
+        Thinning(*this, _state->computation->recorder, met).Whole(*iNode);
     }
 }
 
 void VXMBomGenerator::CleanMBOM_1(VXMFabMBOMNode* iNode, QORHashDico& ioMet) {
     if (iNode) {
-        ThinOut(
-            *iNode, ioMet, [this](VXMFabMBOMNode* iChild) { RemoveNodeFromMBOMFlow(iChild); },
-            [&](VXMFabMBOMNode* iChild) { CleanMBOM_3(iChild, ioMet); });
+        MetByText met(ioMet);
+        Thinning(*this, _state->computation->recorder, met).Alone(*iNode);
     }
 }
 
 void VXMBomGenerator::CleanMBOM_2(VXMFabMBOMNode* iNode) {
-    if (!iNode) {
-        return;
+    if (iNode) {
+        MetByNumber met;
+        Thinning(*this, _state->computation->recorder, met).Beside(*iNode);
     }
-    {
-        QORHashDico met(10);
-        ThinOut(
-            *iNode, met, [this](VXMFabMBOMNode* iChild) { RemoveNodeFromMBOMFlow(iChild); }, [](VXMFabMBOMNode*) {});
-    }
-    // What was lifted stands at the end by now and has its own children cleaned like the rest.
-    const int count = iNode->GetNumberOfSuccessors();
-    for (int position = 1; position <= count; ++position) {
-        QORCallDeep([&] { CleanMBOM_2(iNode->GetSuccessor(position)); });
-    }
+}
+
+void VXMBomGenerator::State::RemoveRepeats(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioTop) const {
+    MetByNumber met;
+    Thinning thinning(ioGenerator, computation->recorder, met);
+    usesLegacyAlgorithm ? thinning.Alone(ioTop) : thinning.Whole(ioTop);
 }

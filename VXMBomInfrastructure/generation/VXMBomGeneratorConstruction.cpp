@@ -12,7 +12,7 @@
 #include "VXMBomInfrastructure/generation/VXMFlowLists.h"
 #include "VXMBomInfrastructure/generation/VXMStructure.h"
 
-#include <algorithm>
+#include <cstdint>
 
 unsigned char VXMBomGenerator::UseProducts(VXMFabFlowNode* iFlowNode, AssignmentType iType) {
     if (!iFlowNode) {
@@ -26,68 +26,26 @@ unsigned char VXMBomGenerator::UseProducts(VXMFabFlowNode* iFlowNode, Assignment
 
 namespace {
 
-/// One call of a build: the step that it takes, and what both builds do alike with it.
-class StepBuild {
-public:
-    StepBuild(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iStep, int iLevel, int iNumber, VXMStructure::Kind iKind)
-        : _generator(ioGenerator), _step(iStep), _level(iLevel), _number(iNumber), _kind(iKind) {}
-
-    /// Makes the nodes of one list under a parent, each but a fastener with its structure. Gives the first of them,
-    /// null when the list is empty or doesn't count.
-    VXMFabMBOMNode* TakeList(const VXMFlowList& iList, VXMFabMBOMNode& iParent) {
-        if (_generator.UseProducts(&_step, iList.type) == 0) {
-            return nullptr;
-        }
-        VXMFabMBOMNode* first = nullptr;
-        const int count = (_step.*iList.count)();
-        for (int position = 1; position <= count; ++position) {
-            VXMFabMBOMNode& node =
-                VXMAttachNode(_generator, iParent, (_step.*iList.entry)(position), _level, _number++, iList.type, 1);
-            if (iList.type != VXMFabMBOMNode::AT_Fastener) {
-                _number = VXMStructure(_generator, _kind).Expand(node, _level, _number);
-            }
-            first = first ? first : &node;
-        }
-        return first;
-    }
-
-    /// Calls iCall(step, number) for each step before this one that the walk enters.
-    template <class Call>
-    void WalkOn(Call iCall) {
-        VXMBackwardWalk& walk = *VXMBomComputation::Of(_generator).backwardWalk;
-        const VXMBackwardWalk::OnPath onPath(walk, _step);
-        const int count = _step.GetNumberOfPredecessors();
-        for (int position = 1; position <= count; ++position) {
-            VXMFabFlowNode* const before = _step.GetPredecessor(position);
-            if (walk.Enters(before)) {
-                QORCallDeep([&] { iCall(before, _number); });
-            }
-        }
-    }
-
-private:
-    VXMBomGenerator& _generator;
-    VXMFabFlowNode& _step;
-    int _level;
-    int _number;
-    VXMStructure::Kind _kind;
-};
-
 /// The walk that begins with the first call of a build; calls within it find it there.
 class WalkUnderWay {
 public:
-    WalkUnderWay(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iEnd)
+    WalkUnderWay(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iEnd, VXMStructure::Kind iKind)
         : _reading(ioGenerator), _walk(VXMBomComputation::Of(ioGenerator).backwardWalk), _isFirst(!_walk) {
         if (!_isFirst) {
             return;
         }
-        _walk.emplace(VXMBomComputation::Of(ioGenerator).graph.GetNodes());
-        if (!VXMBomViewerTrace.IsActive()) { // a trace shows every call
-            _walk->PassOverFruitless(iEnd, [&ioGenerator](VXMFabFlowNode& iStep) {
-                return std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
-                    return (iStep.*iList.count)() > 0 && ioGenerator.UseProducts(&iStep, iList.type) != 0;
-                });
-            });
+        const VXMBomComputation& computation = VXMBomComputation::Of(ioGenerator);
+        const auto takes = [&ioGenerator](VXMFabFlowNode& iStep, VXMFabMBOMNode::AssignmentType iType) {
+            return ioGenerator.UseProducts(&iStep, iType) != 0;
+        };
+        _walk.emplace(computation.graph.GetNodes());
+        try {
+            _walk->Prepare(
+                iEnd, {computation.form, iKind, takes, static_cast<std::uint64_t>(ioGenerator.GetMaxNodes())},
+                VXMBomViewerTrace.IsActive() ? VXMBackwardWalk::Calls::Shown : VXMBackwardWalk::Calls::Hidden);
+        } catch (...) {
+            _walk.reset();
+            throw;
         }
     }
     ~WalkUnderWay() {
@@ -98,10 +56,61 @@ public:
     WalkUnderWay(const WalkUnderWay&) = delete;
     WalkUnderWay& operator=(const WalkUnderWay&) = delete;
 
+    VXMBackwardWalk& operator*() const { return *_walk; }
+
 private:
     VXMModelReading _reading;
     std::optional<VXMBackwardWalk>& _walk;
     bool _isFirst;
+};
+
+/// One call of a build: the step that it takes, and what both builds do alike with it.
+class StepBuild {
+public:
+    StepBuild(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iStep, int iLevel, int iNumber, VXMStructure::Kind iKind)
+        : _generator(ioGenerator), _step(iStep), _level(iLevel), _number(iNumber), _kind(iKind),
+          _walk(ioGenerator, iStep, iKind), _visit(*_walk, iStep) {}
+
+    /// Makes the nodes of one list under a parent, each but a fastener with its structure. Gives the first of them,
+    /// null when the list is empty or doesn't count.
+    VXMFabMBOMNode* TakeList(const VXMFlowList& iList, VXMFabMBOMNode& iParent) {
+        if (_generator.UseProducts(&_step, iList.type) == 0) {
+            return nullptr;
+        }
+        VXMFabMBOMNode* first = nullptr;
+        const int count = (_step.*iList.count)();
+        for (int position = 1; position <= count; ++position) {
+            if (const std::uint64_t leftOut = _visit.LeavesOut()) {
+                _number = static_cast<int>(static_cast<unsigned>(_number) + static_cast<unsigned>(leftOut));
+                continue;
+            }
+            VXMFabMBOMNode& node = VXMAttachNode(_generator, iParent, (_step.*iList.entry)(position), _level, _number++,
+                                                 iList.type, 1, &_step);
+            if (iList.type != VXMFabMBOMNode::AT_Fastener) {
+                _number = VXMStructure(_generator, _kind).Expand(node, _level, _number);
+            }
+            first = first ? first : &node;
+        }
+        return first;
+    }
+
+    /// Calls iCall(step, number) for each step before this one that the walk goes on to.
+    template <class Call>
+    void WalkOn(Call iCall) {
+        VXMFabFlowNode* before = nullptr;
+        while (_visit.GoesOn(before)) {
+            QORCallDeep([&] { iCall(before, _number); });
+        }
+    }
+
+private:
+    VXMBomGenerator& _generator;
+    VXMFabFlowNode& _step;
+    int _level;
+    int _number;
+    VXMStructure::Kind _kind;
+    WalkUnderWay _walk;
+    VXMBackwardWalk::Visit _visit;
 };
 
 } // namespace
@@ -111,7 +120,6 @@ void VXMBomGenerator::CreateMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iPar
     if (!iFlowNode || !iParent) {
         return;
     }
-    const WalkUnderWay walk(*this, *iFlowNode);
     StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesAndProducts);
     for (const VXMFlowList& list : kVXMFlowLists) {
         VXMFabMBOMNode* const parent = list.type == VXMFabMBOMNode::AT_Create ? GetTopNode() : iParent;
@@ -127,7 +135,6 @@ void VXMBomGenerator::CreateOldMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* i
     if (!iFlowNode || !iParent) {
         return;
     }
-    const WalkUnderWay walk(*this, *iFlowNode);
     StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesOnly);
     VXMFabMBOMNode* parent = iParent;
     for (const VXMFlowList& list : kVXMFlowLists) {

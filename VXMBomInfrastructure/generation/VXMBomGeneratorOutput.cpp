@@ -6,6 +6,7 @@
 #include "QORPlatform/framework/QORDeepStack.h"
 #include "QORPlatform/toolkit/QORProgress.h"
 #include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
+#include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
 
 namespace {
 
@@ -30,24 +31,30 @@ const DOMString* TagOf(const VXMFabMBOMNode& iNode, const VXMBomTree& iTree) {
 } // namespace
 
 void VXMBomGenerator::DisplayMBOM(DOM_Element iElement, VXMFabMBOMNode* iNode) {
-    static const DOMString displayName("DisplayName");
-    if (!iNode) {
-        return;
+    if (iNode) {
+        QORDomWriter writer(_state->GetResult().document, "DisplayName");
+        _state->Display(writer, QORDomWriter::PlaceOf(iElement), *iNode);
     }
-    VXMBomResult& result = _state->GetResult();
-    const int count = iNode->GetNumberOfSuccessors();
+}
+
+void VXMBomGenerator::State::Display(QORDomWriter& ioWriter, QORDomWriter::Place iPlace, const VXMFabMBOMNode& iNode) {
+    const int count = iNode.GetNumberOfSuccessors();
     for (int position = 1; position <= count; ++position) {
-        VXMFabMBOMNode* const child = iNode->GetSuccessor(position);
-        const DOMString* const tag = TagOf(*child, _state->computation->tree);
-        if (!tag) {
-            QORCallDeep([&] { DisplayMBOM(iElement, child); });
-            continue;
+        const VXMFabMBOMNode& child = *iNode.GetSuccessor(position);
+        const DOMString* const tag = TagOf(child, computation->tree);
+        QORDomWriter::Place place = iPlace;
+        if (tag) {
+            QORWork::Step();
+            if (VXMBomRecorder* const listener = computation->recorder) {
+                listener->NodeShown(child);
+            }
+            place = ioWriter.Append(iPlace, *tag, child.PeekName());
         }
-        QORWork::Step();
-        DOM_Element element = result.document.createElement(*tag);
-        iElement.appendChild(element);
-        element.setAttribute(displayName, DOMString(static_cast<const char*>(child->GetUName())));
-        QORCallDeep([&] { DisplayMBOM(element, child); });
-        result.previewObjects.Append(child->GetProduct());
+        if (child.GetNumberOfSuccessors() > 0) {
+            QORCallDeep([&] { Display(ioWriter, place, child); });
+        }
+        if (tag) {
+            GetResult().previewObjects.Append(child.GetProduct());
+        }
     }
 }

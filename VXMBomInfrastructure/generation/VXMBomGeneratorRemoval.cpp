@@ -2,6 +2,7 @@
 
 #include "QORPlatform/framework/QORDeepStack.h"
 #include "VXMBomInfrastructure/generation/VXMBomGeneratorState.h"
+#include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
 
 unsigned char VXMBomGenerator::RemoveNodeFromMBOMFlow(VXMFabMBOMNode* iNode) {
     VXMFabMBOMNode* const parent = iNode ? iNode->GetPredecessor() : nullptr;
@@ -48,7 +49,12 @@ unsigned char VXMBomGenerator::RemoveNodeAndChildrenFromListAndDico(VXMFabMBOMNo
     }
     const int count = iNode->GetNumberOfSuccessors();
     for (int position = 1; position <= count; ++position) {
-        QORCallDeep([&] { RemoveNodeAndChildrenFromListAndDico(iNode->GetSuccessor(position)); });
+        VXMFabMBOMNode* const child = iNode->GetSuccessor(position);
+        VXMBomRecorder* const recorder = _state->computation->recorder;
+        if (recorder && child) {
+            recorder->NodeGoes(*child, VXMBomRecorder::R_BelowRepeat, *iNode);
+        }
+        QORCallDeep([&] { RemoveNodeAndChildrenFromListAndDico(child); });
     }
     return RemoveFromListAndDico(iNode);
 }

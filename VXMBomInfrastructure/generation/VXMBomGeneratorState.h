@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QORPlatform/dom/QORDomWriter.h"
 #include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 
@@ -12,6 +13,9 @@ public:
     int fastenersShowMode = 0;
     unsigned char assignedFastenersShowMode = 0;
     bool usesLegacyAlgorithm = false;
+    QORBaseUnknown_var endOfFlow;
+    VXMBomRecorder* recorder = nullptr;
+    long long maxNodes = VXMBomGenerator::kMaxNodes;
 
     bool isBuilt = false;
     VXMBomResult last;
@@ -22,11 +26,12 @@ public:
     template <class Work>
     void Compute(Work iWork) {
         const VXMModelReading reading(isBusy);
-        Begin();
+        auto none = std::make_unique<VXMBomComputation>(); // made now: there may be no memory when the work raises
+        computation = std::make_unique<VXMBomComputation>();
         try {
             iWork(*computation);
         } catch (...) {
-            Begin();
+            computation = std::move(none);
             throw;
         }
     }
@@ -41,12 +46,15 @@ public:
     void BuildAndClean(VXMBomGenerator& ioGenerator) const;
     void TraceFlowNodes() const;
 
+    /// Takes repeats away over the whole tree, as CleanMBOM_3 (CleanMBOM_1 by the legacy algorithm) does, by numbers.
+    void RemoveRepeats(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioTop) const;
+
+    /// Writes the children of a node to a place of the document, and lists their objects.
+    void Display(QORDomWriter& ioWriter, QORDomWriter::Place iPlace, const VXMFabMBOMNode& iNode);
+
     /// The first assignment of a node's product beside it; the first one below it with the number of its own parent.
     /// Null when there is none, or no node. Nothing is changed.
     VXMFabMBOMNode* FindAssignmentBeside(VXMFabMBOMNode* iNode) const;
     VXMFabMBOMNode* FindRepeatBelow(VXMFabMBOMNode* iNode) const;
     bool HasRepeatBelow(VXMFabMBOMNode& iNode) const;
-
-private:
-    void Begin() { computation = std::make_unique<VXMBomComputation>(); }
 };

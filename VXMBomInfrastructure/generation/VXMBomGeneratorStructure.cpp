@@ -4,21 +4,30 @@
 #include "QORPlatform/toolkit/QORProgress.h"
 #include "VXMBomInfrastructure/generation/VXMBomComputation.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
 #include "VXMBomInfrastructure/generation/VXMStructure.h"
+#include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
+#include "VXMBomInfrastructure/index/VXMStructures.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
+#include "VXMBomInfrastructure/nodes/VXMProductName.h"
 
+#include <algorithm>
 #include <utility>
 
 VXMFabMBOMNode& VXMAttachNode(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioParent,
                               const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
-                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable) {
+                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable,
+                              const VXMFabFlowNode* iStep) {
     QORWork::Step();
     auto made = std::make_unique<VXMFabMBOMNode>(iProduct, iLevel, iNumber, iType, iRemovable);
     ioGenerator.AddMBOMNodeToList(made.get());
     VXMFabMBOMNode& node = *made.release();
     ioParent.AddSuccessor(&node);
     node.SetPredecessor(&ioParent);
+    if (VXMBomRecorder* const recorder = VXMBomComputation::Of(ioGenerator).recorder) {
+        recorder->NodeMade(node, iStep);
+    }
     return node;
 }
 
@@ -35,6 +44,14 @@ std::unique_ptr<QORListValQORBaseUnknown_var> ContentsOf(const VXMIMfgAssembly_v
 }
 
 } // namespace
+
+VXMStructure::List VXMStructure::ContentsOf(const QORBaseUnknown_var& iObject, Kind iKind) {
+    if (const VXMIMfgAssembly_var assembly{iObject}) {
+        return ::ContentsOf(assembly);
+    }
+    const QORIProduct_var product(iKind == Kind::AssembliesOnly ? QORBaseUnknown_var() : iObject);
+    return product ? List(product->GetChildren("QORIProduct")) : nullptr;
+}
 
 /// A plain product that is being expanded, for as long as this lives.
 class VXMStructure::OnPath {
@@ -63,11 +80,14 @@ private:
 
 int VXMStructure::Expand(VXMFabMBOMNode& ioNode, int iLevel, int iNumber) {
     const QORBaseUnknown_var object = ioNode.GetProduct();
+    if (!_top) {
+        _top = object;
+    }
     if (const VXMIMfgAssembly_var assembly{object}) {
         if (_expanded.contains(object.Impl())) {
             return iNumber;
         }
-        const List contents = ContentsOf(assembly);
+        const List contents = ::ContentsOf(assembly);
         if (!contents || contents->Size() == 0) {
             return iNumber;
         }
@@ -99,10 +119,36 @@ int VXMStructure::ExpandList(VXMFabMBOMNode& ioNode, const List& iList, int iLev
     const int count = iList->Size();
     for (int position = 1; position <= count; ++position) {
         VXMFabMBOMNode& child = VXMAttachNode(_generator, ioNode, (*iList)[position], iLevel + 1, ++iNumber,
-                                              ioNode.GetAssignmentType(), removable);
+                                              ioNode.GetAssignmentType(), removable, nullptr);
+        CountPart();
         QORCallDeep([&] { iNumber = Expand(child, iLevel + 1, iNumber); });
     }
     return iNumber;
+}
+
+/// Parts that stand in several places multiply from level to level. So when an entry brings more than a few, all that
+/// it will bring are counted, before they fill the memory.
+void VXMStructure::CountPart() {
+    constexpr std::uint64_t kFewParts = 1U << 16U; // are made whatever the limit
+    const std::uint64_t parts = ++VXMBomComputation::Of(_generator).parts;
+    ++_parts;
+    if (parts < kFewParts) {
+        return;
+    }
+    const std::uint64_t coming = _parts == kFewParts ? CountBelow(_top) : 0;
+    const auto most = std::max(static_cast<std::uint64_t>(_generator.GetMaxNodes()), kFewParts);
+    if (std::max(parts, coming) > most) {
+        throw VXMTooManyNodes("products bring at least " + std::to_string(std::max(parts, coming)) +
+                              " parts, more than " + std::to_string(most) + ": the latest is \"" +
+                              std::string(VXMNameOfProduct(_top)) + "\"; its parts stand in several places");
+    }
+}
+
+/// The nodes below the node of a product, when they can be told without making them; else 0.
+std::uint64_t VXMStructure::CountBelow(const QORBaseUnknown_var& iProduct) const {
+    VXMStructures structures(_kind, [](int) { return false; });
+    const VXMStructures::Facts facts = structures.Of(iProduct);
+    return facts.holdsItself || structures.AreAmbiguous() ? 0 : facts.nodes - 1;
 }
 
 int VXMBomGenerator::CreateProductChildren(VXMFabMBOMNode* iNode, int iLevel, int iNumber,

@@ -44,10 +44,12 @@ VXMSearchFirstItem(VXMBomGenerator& ioGenerator, const QORBaseUnknown_var& iItem
         return *known;
     }
     VXMFirstItems::Step step(*search, iItem);
-    QORBaseUnknown_var first = iItem;
-    if (const auto predecessor = iFirstPredecessor(iItem)) {
-        QORCallDeep([&] { first = ioGenerator.GetFirstFlowNode(*predecessor); });
+    const auto predecessor = iFirstPredecessor(iItem);
+    if (!predecessor) {
+        return iItem; // asked again it is found as fast
     }
+    QORBaseUnknown_var first;
+    QORCallDeep([&] { first = ioGenerator.GetFirstFlowNode(*predecessor); });
     step.Conclude(first);
     return first;
 }

@@ -40,9 +40,10 @@ void TraceNodeName(const char* iLabel, const VXMFabFlowNode* iNode) {
 
 } // namespace
 
-VXMFlowWalk::VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel)
+VXMFlowWalk::VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel,
+                         LastSuccessor iLastSuccessor)
     : _reading(ioGenerator), _generator(ioGenerator), _previous(iPrevious), _current(iCurrent), _level(iLevel),
-      _last(iPrevious) {}
+      _lastSuccessor(iLastSuccessor), _last(iPrevious) {}
 
 void VXMFlowWalk::VisitChildren(const QORListValQORBaseUnknown_var& iChildren, Standalone iStandalone) {
     const int count = iChildren.Size();
@@ -85,11 +86,11 @@ void VXMFlowWalk::Link() {
 void VXMFlowWalk::VisitSuccessors(const QORListValQORBaseUnknown_var& iSuccessors, NullNode iNullNode) {
     const int count = iSuccessors.Size();
     for (int position = 1; position <= count; ++position) {
-        VisitSuccessor(iSuccessors[position], iNullNode);
+        VisitSuccessor(iSuccessors[position], iNullNode, position == count);
     }
 }
 
-void VXMFlowWalk::VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode) {
+void VXMFlowWalk::VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode, bool iIsLast) {
     TraceItem(iSuccessor, TypeLine::LeftOut);
     if (VXMFabFlowNode* const known = _generator.CheckUse(iSuccessor)) {
         LinkNodes(_current, known, "**Predecessor: ", "**Successor: ");
@@ -97,7 +98,12 @@ void VXMFlowWalk::VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode 
         return;
     }
     VXMFabFlowNode* node = nullptr;
-    if (MakeNode(iSuccessor, _level, iNullNode, node)) {
+    if (!MakeNode(iSuccessor, _level, iNullNode, node)) {
+        return;
+    }
+    if (iIsLast && node && _lastSuccessor == LastSuccessor::LeftToCaller) {
+        _next = node;
+    } else {
         WalkOn(_current, node, _level);
     }
 }

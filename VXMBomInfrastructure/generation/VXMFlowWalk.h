@@ -13,7 +13,13 @@ class VXMFabFlowNode;
 /// side; the node itself comes after the last of them.
 class VXMFlowWalk {
 public:
-    VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel);
+    /// Who walks from the last successor: this call, by a CheckFlow of its own; or the caller, who finds it in GetNext
+    /// and goes on there as that call would have, since nothing follows it here. So a line of steps takes no stack. A
+    /// generator that somebody has derived from ours may do more in its CheckFlow, and is called.
+    enum class LastSuccessor { Called, LeftToCaller };
+
+    VXMFlowWalk(VXMBomGenerator& ioGenerator, VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel,
+                LastSuccessor iLastSuccessor);
 
     /// Which children stay out of the flow, and what becomes of a successor for which no node can be made.
     enum class Standalone { LeftOut, Walked };
@@ -34,12 +40,15 @@ public:
     /// Makes the node its own end where nothing came before it and it has no walked child.
     void EndAtCurrent();
 
+    /// The node to go on at, with the present one for the previous; null where the call is over.
+    VXMFabFlowNode* GetNext() const { return _next; }
+
     /// Where the flow has got to in this call, null while it has no end yet.
     VXMFabFlowNode* GetLast() const { return _last; }
 
 private:
     void VisitChild(const QORBaseUnknown_var& iChild, Standalone iStandalone);
-    void VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode);
+    void VisitSuccessor(const QORBaseUnknown_var& iSuccessor, NullNode iNullNode, bool iIsLast);
     bool MakeNode(const QORBaseUnknown_var& iItem, int iLevel, NullNode iNullNode, VXMFabFlowNode*& oNode);
     void WalkOn(VXMFabFlowNode* iFrom, VXMFabFlowNode* iNode, int iLevel);
     void LinkNodes(VXMFabFlowNode* iBefore, VXMFabFlowNode* iAfter, const char* iBeforeLabel, const char* iAfterLabel);
@@ -49,5 +58,7 @@ private:
     VXMFabFlowNode* _previous;
     VXMFabFlowNode* _current;
     int _level;
+    LastSuccessor _lastSuccessor;
     VXMFabFlowNode* _last;
+    VXMFabFlowNode* _next = nullptr;
 };

@@ -3,16 +3,20 @@
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
 
 class VXMBomGenerator;
+class VXMFabFlowNode;
 
-/// Makes a node, registers it and puts it at the end of a parent's children.
+/// Makes a node, registers it and puts it at the end of a parent's children. iStep is the step whose list names the
+/// product, null for a part of the parent's product.
 VXMFabMBOMNode& VXMAttachNode(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioParent,
                               const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
-                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable);
+                              VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable,
+                              const VXMFabFlowNode* iStep);
 
 /// Makes the MBOM nodes of what one product is made of, depth first.
 ///
@@ -27,20 +31,29 @@ public:
 
     VXMStructure(VXMBomGenerator& ioGenerator, Kind iKind) : _generator(ioGenerator), _kind(iKind) {}
 
+    using List = std::unique_ptr<QORListValQORBaseUnknown_var>;
+
+    /// What an object is made of, as far as a kind of expansion looks at it; null for a leaf.
+    static List ContentsOf(const QORBaseUnknown_var& iObject, Kind iKind);
+
     /// Says that an object was expanded further up, before this began.
     void WasExpanded(const QORBaseUnknown_var& iObject) { _expanded.insert(iObject.Impl()); }
 
-    /// Makes the nodes below ioNode and gives the number to go on with.
+    /// Makes the nodes below ioNode and gives the number to go on with. Raises VXMTooManyNodes when the computation
+    /// makes more parts than it may.
     int Expand(VXMFabMBOMNode& ioNode, int iLevel, int iNumber);
 
 private:
-    using List = std::unique_ptr<QORListValQORBaseUnknown_var>;
     class OnPath;
 
     int ExpandList(VXMFabMBOMNode& ioNode, const List& iList, int iLevel, int iNumber);
+    void CountPart();
+    std::uint64_t CountBelow(const QORBaseUnknown_var& iProduct) const;
 
     VXMBomGenerator& _generator;
     Kind _kind;
+    QORBaseUnknown_var _top;                                  // of the node with which the expansion began
+    std::uint64_t _parts = 0;                                 // that were made below it
     std::unordered_set<const QORBaseUnknown*> _expanded;      // assemblies on the path, and what the caller named
     std::unordered_map<const QORBaseUnknown*, int> _products; // plain products on the path: assemblies above the latest
     int _assemblies = 0;                                      // on the path, of this expansion

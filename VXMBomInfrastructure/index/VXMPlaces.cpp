@@ -47,13 +47,13 @@ public:
     }
 
     void TakeLast() {
-        ++_taken;
         const auto places = static_cast<int>(_nodes.size());
         if (places * 2 > static_cast<int>(_table.size())) {
             MakeTable();
         } else {
             Enter(places - 1);
         }
+        ++_taken;
     }
 
     void Leave(int iPlace) {
@@ -93,8 +93,8 @@ private:
     }
 
     void MakeTable() {
+        _table.assign(std::bit_ceil(_nodes.size() * 2 + 2), kNoPlace); // raises before it changes anything
         _hasRepeats = false;
-        _table.assign(std::bit_ceil(_nodes.size() * 2 + 2), kNoPlace);
         for (int place = 0; place < static_cast<int>(_nodes.size()); ++place) {
             if (_nodes[place]) {
                 Enter(place);
@@ -145,8 +145,13 @@ VXMFabMBOMNode* VXMPlaces::operator[](int iPosition) const {
 
 void VXMPlaces::Append(VXMFabMBOMNode* iNode) {
     _nodes.push_back(iNode);
-    if (_gaps) {
-        _gaps->TakeLast();
+    try {
+        if (_gaps) {
+            _gaps->TakeLast();
+        }
+    } catch (...) {
+        _nodes.pop_back(); // who adds it owns it still
+        throw;
     }
 }
 

@@ -1,8 +1,9 @@
 #include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
-#include "QORPlatform/collections/QORRawCollPV.h"
+#include "QORPlatform/collections/QORFew.h"
 #include "QORPlatform/framework/QORObjectCounts.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
+#include "VXMBomInfrastructure/index/VXMPool.h"
 #include "VXMBomInfrastructure/index/VXMStations.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
@@ -18,8 +19,11 @@ class VXM_HIDDEN VXMFabFlowNode::Links : private QORCounted<Links> {
 public:
     static constexpr std::string_view kCountName = "VXMFabFlowNode";
 
-    QORRawCollPV predecessors;
-    QORRawCollPV successors;
+    QORFew<VXMFabFlowNode*> predecessors;
+    QORFew<VXMFabFlowNode*> successors;
+
+    static void* operator new(std::size_t) { return VXMPool<sizeof(Links)>::Get().Take(); }
+    static void operator delete(void* iLinks) { VXMPool<sizeof(Links)>::Get().GiveBack(iLinks); }
 
 private:
     friend class QORCounted<Links>;
@@ -38,6 +42,11 @@ bool IsShown(const QORUnicodeString& iProcessType, int iFastenersShowMode) {
     return false;
 }
 
+VXMFabFlowNode* At(const QORFew<VXMFabFlowNode*>& iNodes, int iPosition) {
+    const bool isThere = iPosition >= 1 && static_cast<std::size_t>(iPosition) <= iNodes.size();
+    return isThere ? iNodes[static_cast<std::size_t>(iPosition) - 1] : nullptr;
+}
+
 } // namespace
 
 VXMFabFlowNode::VXMFabFlowNode(const int iFastenersShowMode, const unsigned char iAssignedFastenersShowMode)
@@ -47,27 +56,27 @@ VXMFabFlowNode::VXMFabFlowNode(const int iFastenersShowMode, const unsigned char
 VXMFabFlowNode::~VXMFabFlowNode() = default;
 
 void VXMFabFlowNode::AddPredecessor(VXMFabFlowNode* iNode) {
-    _links->predecessors.Append(iNode);
+    _links->predecessors.push_back(iNode);
 }
 
 void VXMFabFlowNode::AddSuccessor(VXMFabFlowNode* iNode) {
-    _links->successors.Append(iNode);
+    _links->successors.push_back(iNode);
 }
 
 int VXMFabFlowNode::GetNumberOfPredecessors() const {
-    return _links->predecessors.Size();
+    return static_cast<int>(_links->predecessors.size());
 }
 
 int VXMFabFlowNode::GetNumberOfSuccessors() const {
-    return _links->successors.Size();
+    return static_cast<int>(_links->successors.size());
 }
 
 VXMFabFlowNode* VXMFabFlowNode::GetPredecessor(int iPosition) const {
-    return static_cast<VXMFabFlowNode*>(_links->predecessors[iPosition]);
+    return At(_links->predecessors, iPosition);
 }
 
 VXMFabFlowNode* VXMFabFlowNode::GetSuccessor(int iPosition) const {
-    return static_cast<VXMFabFlowNode*>(_links->successors[iPosition]);
+    return At(_links->successors, iPosition);
 }
 
 QORUnicodeString VXMFabFlowNode::GetIDString() const {

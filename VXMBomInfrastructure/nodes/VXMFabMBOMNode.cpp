@@ -4,9 +4,11 @@
 #include "QORPlatform/framework/QORObjectCounts.h"
 #include "VXMBomInfrastructure/VXMBomViewerTrace.h"
 #include "VXMBomInfrastructure/index/VXMPlaces.h"
+#include "VXMBomInfrastructure/index/VXMPool.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/QORISPPItem.h"
 #include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
+#include "VXMBomInfrastructure/nodes/VXMProductName.h"
 
 /// What a node is. Everything but the links is fixed at construction.
 class VXM_HIDDEN VXMFabMBOMNode::State : private QORCounted<State> {
@@ -16,9 +18,12 @@ public:
     State(int iLevel, int iNumber, AssignmentType iAssignmentType, unsigned char iRemovable)
         : level(iLevel), number(iNumber), assignmentType(iAssignmentType), removable(iRemovable) {}
 
+    static void* operator new(std::size_t) { return VXMPool<sizeof(State)>::Get().Take(); }
+    static void operator delete(void* iState) { VXMPool<sizeof(State)>::Get().GiveBack(iState); }
+
     VXMFabMBOMNode* predecessor = nullptr;
     VXMPlaces successors;
-    QORUnicodeString name{"not defined"};
+    QORUnicodeString name;
     QORBaseUnknown_var product;
     int level;
     int id = -1;
@@ -30,29 +35,28 @@ private:
     friend class QORCounted<State>;
 };
 
-namespace {
-
-void ReadName(const QORBaseUnknown_var& iProduct, QORUnicodeString& oName) {
-    if (const VXMIMfgAssembly_var assembly{iProduct}) {
-        oName = assembly->GetName();
+QORUnicodeString VXMNameOfProduct(const QORBaseUnknown_var& iProduct) {
+    QORUnicodeString name("not defined");
+    if (!iProduct) {
+        name = "TOPNODE";
+    } else if (const VXMIMfgAssembly_var assembly{iProduct}) {
+        name = assembly->GetName();
     } else if (const QORIProduct_var product{iProduct}) {
-        product->GetInstanceName(oName);
+        product->GetInstanceName(name);
     } else if (const QORISPPItem_var item{iProduct}) {
-        oName = item->GetName();
+        name = item->GetName();
     }
+    return name;
 }
-
-} // namespace
 
 VXMFabMBOMNode::VXMFabMBOMNode(const QORBaseUnknown_var& iProduct, const int iLevel, const int iNumber,
                                AssignmentType iAssignmentType, const unsigned char iRemovable)
     : _state(std::make_unique<State>(iLevel, iNumber, iAssignmentType, iRemovable)) {
+    _state->name = VXMNameOfProduct(iProduct);
     if (!iProduct) {
-        _state->name = "TOPNODE";
         return;
     }
     _state->product = iProduct;
-    ReadName(_state->product, _state->name);
     _state->id = QORModelIdentificator(_state->product->GetImpl(0)).GetIntId();
     VXMBomViewerTrace.TraPutX("Number: ", _state->number);
     VXMBomViewerTrace.TraPutX("ID: ", _state->id);
@@ -101,6 +105,10 @@ QORString VXMFabMBOMNode::GetName() const {
 }
 
 QORUnicodeString VXMFabMBOMNode::GetUName() const {
+    return _state->name;
+}
+
+const char* VXMFabMBOMNode::PeekName() const {
     return _state->name;
 }
 

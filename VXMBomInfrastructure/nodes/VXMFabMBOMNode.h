@@ -77,6 +77,11 @@ public:
     unsigned char IsRemovable() const;
 
 private:
+    friend class VXMBomGenerator;
+
+    /// The name, for as long as the node lives.
+    VXM_HIDDEN const char* PeekName() const;
+
     class State;
     std::unique_ptr<State> _state;
 };

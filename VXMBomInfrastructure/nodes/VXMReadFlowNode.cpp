@@ -5,10 +5,15 @@
 #include "VXMBomInfrastructure/nodes/VXMFabFlowNode.h"
 
 #include <memory>
+#include <utility>
 
 void VXMTakeOver(QORListValQORBaseUnknown_var* iList, QORListValQORBaseUnknown_var& oTarget) {
     const std::unique_ptr<QORListValQORBaseUnknown_var> list(iList);
     if (!list) {
+        return;
+    }
+    if (oTarget.Size() == 0) {
+        oTarget = std::move(*list);
         return;
     }
     for (const QORBaseUnknown_var& entry : *list) {

@@ -11,31 +11,39 @@
 #include "VXMBomInfrastructure/process/VXMActivityLinks.h"
 #include "VXMBomInfrastructure/process/VXMWalkedActivityFlowNode.h"
 
+#include <typeinfo>
+#include <utility>
+
 VXMProcessBomGenerator::VXMProcessBomGenerator(const QORBaseUnknown_var& iRoot) : VXMBomGenerator(iRoot) {}
 
 VXMProcessBomGenerator::~VXMProcessBomGenerator() = default;
 
 VXMFabFlowNode* VXMProcessBomGenerator::CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) {
-    if (!iCurrent) {
-        return iPrevious;
+    const bool isOwn = typeid(*this) == typeid(VXMProcessBomGenerator);
+    while (iCurrent) {
+        VXMFlowWalk walk(*this, iPrevious, iCurrent, iLevel,
+                         isOwn ? VXMFlowWalk::LastSuccessor::LeftToCaller : VXMFlowWalk::LastSuccessor::Called);
+        TraceFlow();
+        const QORBaseUnknown_var activity = iCurrent->GetActivity();
+        if (!QORISpecObject_var(activity)) {
+            return iPrevious;
+        }
+        if (const auto children = VXMActivityLinks::Children(activity)) {
+            walk.VisitChildren(*children, VXMFlowWalk::Standalone::LeftOut);
+        }
+        TraceFlow();
+        walk.Link();
+        TraceFlow();
+        const QORISPPFlowMgt_var flow(activity);
+        if (flow && walk.FollowsLinks()) {
+            walk.VisitSuccessors(VXMActivityLinks::Successors(flow), VXMFlowWalk::NullNode::Skipped);
+        }
+        if (!walk.GetNext()) {
+            return walk.GetLast();
+        }
+        iPrevious = std::exchange(iCurrent, walk.GetNext());
     }
-    VXMFlowWalk walk(*this, iPrevious, iCurrent, iLevel);
-    TraceFlow();
-    const QORBaseUnknown_var activity = iCurrent->GetActivity();
-    if (!QORISpecObject_var(activity)) {
-        return iPrevious;
-    }
-    if (const auto children = VXMActivityLinks::Children(activity)) {
-        walk.VisitChildren(*children, VXMFlowWalk::Standalone::LeftOut);
-    }
-    TraceFlow();
-    walk.Link();
-    TraceFlow();
-    const QORISPPFlowMgt_var flow(activity);
-    if (flow && walk.FollowsLinks()) {
-        walk.VisitSuccessors(VXMActivityLinks::Successors(flow), VXMFlowWalk::NullNode::Skipped);
-    }
-    return walk.GetLast();
+    return iPrevious;
 }
 
 QORBaseUnknown_var VXMProcessBomGenerator::GetFirstFlowNode(const QORBaseUnknown_var& iItem) {

@@ -23,6 +23,8 @@
 #include "VXMBomInfrastructure/process/VXMWalkedActivityFlowNode.h"
 
 #include <memory>
+#include <typeinfo>
+#include <utility>
 
 namespace {
 
@@ -49,23 +51,28 @@ VXMResourceBomGenerator::VXMResourceBomGenerator(const QORBaseUnknown_var& iRoot
 VXMResourceBomGenerator::~VXMResourceBomGenerator() = default;
 
 VXMFabFlowNode* VXMResourceBomGenerator::CheckFlow(VXMFabFlowNode* iPrevious, VXMFabFlowNode* iCurrent, int iLevel) {
-    if (!iCurrent) {
-        return iPrevious;
+    const bool isOwn = typeid(*this) == typeid(VXMResourceBomGenerator);
+    while (iCurrent) {
+        const bool isResource = iCurrent->IsAResourceFlowNode() == 1;
+        VXMFlowWalk walk(*this, iPrevious, iCurrent, iLevel,
+                         isOwn ? VXMFlowWalk::LastSuccessor::LeftToCaller : VXMFlowWalk::LastSuccessor::Called);
+        TraceFlow();
+        const QORBaseUnknown_var object = iCurrent->GetActivity();
+        if (!QORISpecObject_var(object)) {
+            return iPrevious;
+        }
+        const Behavior behavior = isResource ? FindBehavior(object) : Behavior();
+        isResource ? VisitResourceChildren(walk, object, behavior) : VisitActivityChildren(walk, object);
+        TraceFlow();
+        walk.Link();
+        TraceFlow();
+        isResource ? VisitResourceSuccessors(walk, object, behavior) : VisitActivitySuccessors(walk, object);
+        if (!walk.GetNext()) {
+            return walk.GetLast();
+        }
+        iPrevious = std::exchange(iCurrent, walk.GetNext());
     }
-    const bool isResource = iCurrent->IsAResourceFlowNode() == 1;
-    VXMFlowWalk walk(*this, iPrevious, iCurrent, iLevel);
-    TraceFlow();
-    const QORBaseUnknown_var object = iCurrent->GetActivity();
-    if (!QORISpecObject_var(object)) {
-        return iPrevious;
-    }
-    const Behavior behavior = isResource ? FindBehavior(object) : Behavior();
-    isResource ? VisitResourceChildren(walk, object, behavior) : VisitActivityChildren(walk, object);
-    TraceFlow();
-    walk.Link();
-    TraceFlow();
-    isResource ? VisitResourceSuccessors(walk, object, behavior) : VisitActivitySuccessors(walk, object);
-    return walk.GetLast();
+    return iPrevious;
 }
 
 void VXMResourceBomGenerator::VisitActivityChildren(VXMFlowWalk& ioWalk, const QORBaseUnknown_var& iActivity) {

@@ -222,58 +222,6 @@ TEST(Structure, OnlyAssembliesAreLookedUpInThePathOfTheCaller) {
     EXPECT_EQ(structureOf(product, {&assembly}), "2(3) 4");
 }
 
-struct RaisingRow {
-    const char* drawing;
-    Root kind;
-};
-
-const RaisingRow kRaising[] = {
-    {"S1: +A(P Q[X]) *w | S2@station { L@loading: +Y | M } | S3: -P >O[P A] =Y { T1, T2 } ; S3>S1", Root::Process},
-    {"R@resource: +A(P) ( C1@resource: *w >O[P] | C2@resource { A1: +Q | C3@resource: +X } )", Root::Resource},
-};
-
-/// Raises at every call of the model in turn: later computations leave the first one's result in place, a new
-/// generator has none.
-void raiseEverywhere(const RaisingRow& row, Algorithm algorithm) {
-    World world;
-    Thing& root = draw(world, row.kind, row.drawing);
-    const auto generator = makeGenerator(root, row.kind, algorithm);
-    const auto fresh = QORLivingObjects();
-    const DOM_Document document = generator->GetBom(0);
-    const std::string bom = bomText(document);
-    const std::string objects = listText(generator->GetPreviewObjects());
-    const int calls = world.calls.count;
-    EXPECT_NE(bom, "");
-    for (int turn = 1; turn <= calls; ++turn) {
-        SCOPED_TRACE(turn);
-        world.calls.raiseAt = world.calls.count + turn;
-        EXPECT_THROW(generator->GetBom(1), std::runtime_error);
-        EXPECT_EQ(generator->GetBom(0), document);
-        EXPECT_EQ(bomText(document), bom);
-        EXPECT_EQ(listText(generator->GetPreviewObjects()), objects);
-        EXPECT_EQ(generator->GetTopNode(), nullptr);
-        auto left = QORLivingObjects();
-        EXPECT_EQ(left["DOM_Document"], 1);
-        left.erase("DOM_Document");
-        EXPECT_EQ(left, fresh);
-
-        const auto other = makeGenerator(root, row.kind, algorithm);
-        world.calls.raiseAt = world.calls.count + turn;
-        EXPECT_THROW(other->GetBom(0), std::runtime_error);
-        EXPECT_EQ(other->GetPreviewObjects().Size(), 0);
-        EXPECT_EQ(bomText(other->GetBom(0)), bom);
-    }
-    EXPECT_EQ(bomText(generator->GetBom(1)), bom);
-    EXPECT_EQ(listText(generator->GetPreviewObjects()), objects);
-}
-
-TEST(GetBom, AModelThatRaisesLeavesTheLastSuccessInPlace) {
-    for (const RaisingRow& row : kRaising) {
-        raiseEverywhere(row, Algorithm::Present);
-        raiseEverywhere(row, Algorithm::Legacy);
-    }
-}
-
 /// A model that publishes while it is read, so that somebody asks the generator in the middle of its computation.
 TEST(GetBom, AskedByTheModelThatItReadsGivesTheLastBill) {
     World world;

@@ -4,12 +4,14 @@
 
 #include "VXMBomInfrastructure/generation/VXMBomTree.h"
 #include "VXMBomInfrastructure/index/VXMFlowEnds.h"
+#include "VXMBomInfrastructure/index/VXMNatural.h"
 #include "VXMBomInfrastructure/index/VXMPlaces.h"
 #include "VXMBomInfrastructure/index/VXMStations.h"
 #include "VXMBomInfrastructure/index/VXMStepNumbers.h"
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <map>
 #include <set>
@@ -88,7 +90,8 @@ TEST(ByNumber, EqualsAMap) {
     VXMByNumber<int> values;
     std::map<int, int> plain;
     for (int step = 0; step < 20000; ++step) {
-        const int number = pick(random, 2) == 0 ? pick(random, 300) - 5 : static_cast<int>(random());
+        const int near = pick(random, 3000) - 5;
+        const int number = std::array{near, (1 << 30) + near, static_cast<int>(random())}[pick(random, 3)];
         ASSERT_EQ(values.Get(number), plain.contains(number) ? plain[number] : 0);
         if (pick(random, 2) == 0) {
             values[number] = plain[number] = step;
@@ -96,6 +99,36 @@ TEST(ByNumber, EqualsAMap) {
     }
     values.RemoveAll();
     EXPECT_EQ(values.Get(plain.begin()->first), 0);
+}
+
+TEST(Naturals, AddSubtractAndCompareAcrossWords) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 2000; ++round) {
+        VXMNatural number(random());
+        for (int doublings = pick(random, 200); doublings > 0; --doublings) {
+            number += number;
+        }
+        VXMNatural sum = number;
+        VXMNatural other(random() % 3);
+        for (int doublings = pick(random, 200); doublings > 0; --doublings) {
+            other += other;
+            other += random() % 2;
+        }
+        sum += other;
+        VXMNatural swapped = other;
+        swapped += number;
+        ASSERT_EQ(sum, swapped);
+        ASSERT_EQ(sum > number, other > 0);
+        sum -= other;
+        ASSERT_EQ(sum, number);
+        sum -= number;
+        ASSERT_EQ(sum, 0);
+    }
+    VXMNatural word(~0ULL);
+    word += 1;
+    EXPECT_GT(word, ~0ULL);
+    word -= 1;
+    EXPECT_EQ(word, ~0ULL);
 }
 
 /// A vertex without a model object, as somebody else's subclass would be.

@@ -2,6 +2,9 @@
 
 #include "library/Bills.h"
 
+#include "QORPlatform/navigation/QORINavigateObject.h"
+#include "VXMBomInfrastructure/navigation/VXMBomNavObject.h"
+
 #include <chrono>
 
 using namespace testmodel;
@@ -59,11 +62,26 @@ int countElements(const DOM_Document& document) {
     }
 }
 
+/// Counts the rows of a tree, walked to its end through its tree objects.
+int countRows(const DOM_Document& document) {
+    DOM_Element top = document.getDocumentElement();
+    std::vector<QORBaseUnknown_var> waiting{QORBaseUnknown_var::Adopt(new VXMBomNavObject(top))};
+    int count = -1; // without the top
+    for (; !waiting.empty(); ++count) {
+        const QORINavigateObject_var row(waiting.back());
+        waiting.pop_back();
+        const std::unique_ptr<QORListValQORBaseUnknown_var> children(row->GetChildren());
+        waiting.insert(waiting.end(), children->begin(), children->end());
+    }
+    return count;
+}
+
 void expectElements(Thing& root, int expected, Root kind = Root::Process, Algorithm algorithm = Algorithm::Present) {
     const auto begin = std::chrono::steady_clock::now();
     {
         const auto generator = makeGenerator(root, kind, algorithm);
         EXPECT_EQ(countElements(generator->GetBom(0)), expected);
+        EXPECT_EQ(countRows(generator->GetBom(0)), expected);
         EXPECT_EQ(generator->GetPreviewObjects().Size(), expected);
     }
     EXPECT_LT(std::chrono::steady_clock::now() - begin, kBound);
@@ -204,6 +222,89 @@ TEST(Scale, ForksThatBringNothing) {
         links += isLoop ? " J60>J0 J60>end" : " J60>end";
         World world;
         expectElements(drawPlan(world, steps + branches + ", end" + links), isLoop ? 1 : 0);
+    }
+}
+
+/// A line without lists, a feeder into each of its steps, and a link back between two of them.
+TEST(Scale, FeedersIntoALineWithALoop) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    Things line;
+    for (Thing* const feeder : Things(*root.children)) {
+        feeder->successors.clear();
+        feeder->predecessors.clear();
+        line.push_back(&world.thing("L" + feeder->name, kStep));
+        line.back()->parent = &root;
+        World::link(*feeder, *line.back());
+        if (line.size() > 1) {
+            World::link(*line[line.size() - 2], *line.back());
+        }
+    }
+    World::link(*line[line.size() / 2], *line[line.size() / 2 - 1]);
+    root.children->insert(root.children->end(), line.begin(), line.end());
+    expectElements(root, kMany);
+}
+
+/// 2^1000 paths, in a form whose numbers don't fit any word; each product comes and goes.
+TEST(Scale, SectionsInARow) {
+    World world;
+    Thing& root = world.thing("R", kStep);
+    root.children = Things{&step(world, root, 0)};
+    for (int index = 1; index <= 3000; index += 3) {
+        Thing* const before = root.children->back();
+        for (int part = 0; part < 3; ++part) {
+            Thing& next = step(world, root, index + part);
+            next.items[part == 2 ? 4 : 1]->push_back(before->items[2]->front());
+            root.children->push_back(&next);
+        }
+        Thing* const join = root.children->back();
+        for (Thing* const branch : {&world[named("S", index)], &world[named("S", index + 1)]}) {
+            World::link(*before, *branch);
+            World::link(*branch, *join);
+        }
+    }
+    expectElements(root, 3001);
+}
+
+TEST(Scale, EveryStepIsLinkedToTheEnd) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    const Things& steps = *root.children;
+    for (std::size_t index = 0; index + 2 < steps.size(); ++index) {
+        World::link(*steps[index], *steps.back());
+    }
+    expectElements(root, kMany);
+}
+
+TEST(Scale, ALoopThroughAllSteps) {
+    World world;
+    Thing& root = chainPlan(world, kMany);
+    World::link(*root.children->back(), *root.children->front());
+    expectElements(root, kMany);
+    expectElements(root, kMany, Root::Process, Algorithm::Legacy);
+}
+
+TEST(Scale, LoopsThroughOneStep) {
+    World world;
+    Thing& root = chainPlan(world, 1);
+    for (int index = 2; index <= kMany; ++index) {
+        Thing& around = step(world, root, index);
+        World::link(*root.children->front(), around);
+        World::link(around, *root.children->front());
+        root.children->push_back(&around);
+    }
+    expectElements(root, kMany);
+    expectElements(root, kMany, Root::Process, Algorithm::Legacy);
+}
+
+/// The long way round, and once more where the algorithm shows what closes the ring.
+TEST(Scale, AStructureThatHoldsItself) {
+    for (const auto& [list, answers] : {std::pair(&Thing::parts, kProduct), std::pair(&Thing::held, kAssembly)}) {
+        World world;
+        Thing& root = drawPlan(world, list == &Thing::parts ? "S1: +A() | S2" : "S1: +A[] | S2");
+        nest(world, list, answers);
+        world[named("P", kDeep)].*list = Things{&world["A"]};
+        expectElements(root, kDeep + 1);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "library/WindowDesk.h"
 #include "support/BomText.h"
-#include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
 #include "QORPlatform/dialog/QORDialogLoop.h"
@@ -216,25 +215,6 @@ TEST(WindowLife, GoesInItsOrderInEachMode) {
         window.close();
         EXPECT_EQ(diary.take(), lifeIn(mode)) << "mode " << mode;
     }
-}
-
-TEST(WindowLife, LeavesNothingOverWhereTheModelRaisesWhileItOpens) {
-    Desk desk(kShop);
-    testmodel::World world;
-    testmodel::Thing& root = testmodel::drawPlan(world, "S1: +P *w | S2: -P >A(Q)");
-    const auto before = QORLivingObjects();
-    world.calls.raiseAt = 1;
-    for (bool raised = true; raised; ++world.calls.raiseAt) {
-        world.calls.count = 0;
-        try {
-            Window(&desk.frmEditor(), &root, 3).close();
-            raised = false;
-        } catch (const std::runtime_error&) {
-        }
-        EXPECT_EQ(QORLivingObjects(), before) << "call " << world.calls.raiseAt;
-    }
-    EXPECT_GT(world.calls.count, 10);
-    EXPECT_EQ(desk.plan().process()->GetEventPublisher()->GetSubscriptionCount(), 1) << "the session's";
 }
 
 /// Ends the frame that the viewer stands in while the viewer waits for the dialog loop.

@@ -31,13 +31,13 @@ QORViewer* MakeViewer(QORDlgFrame& ioFrame, bool iInSpace) {
     return new QORNavigation2DViewer(&ioFrame, " Bom Viewer", kQORViewerNavigated, kWidth, kHeight, kQORViewerPlain);
 }
 
-/// A step of the window's end that asks the model: one that raises mustn't keep the rest from ending.
+/// A step of the window's end that asks the model or needs memory: one that raises mustn't keep the rest from ending.
 template <class Step>
 void Regardless(Step iStep) {
     try {
         iStep();
     } catch (...) {
-        VXMBomViewerTrace.TraPutLN("The model raised an error while a BOMViewer ended");
+        VXMBomViewerTrace.TraPutLN("An error was raised while a BOMViewer ended");
     }
 }
 
@@ -91,7 +91,7 @@ VXMFabBomViewer::~VXMFabBomViewer() {
     }
     _state->_viewpoint = nullptr;
     if (_state->_viewer) {
-        _state->_viewer->RequestDelayedDestruction();
+        Regardless([this] { _state->_viewer->RequestDelayedDestruction(); }); // else it ends with its frame
         _state->_viewer = nullptr;
     }
     _state->_previewObjects.RemoveAll();

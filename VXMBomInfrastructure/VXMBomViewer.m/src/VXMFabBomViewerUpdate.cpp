@@ -86,32 +86,52 @@ QORVar<QOREventSubscriber> FindPublisher(VXMFabBomViewer& ioWindow) {
     return events ? QORVar<QOREventSubscriber>(events->GetEventPublisher()) : QORVar<QOREventSubscriber>();
 }
 
-/// Builds the BOM anew and gives the box its new root; the root of the last BOM again where that raises an error, which
-/// then comes out. A person's wish to cancel is no error.
-void Rebuild(VXMFabBomViewerState& ioState) {
-    QORNavigBox& box = *ioState._navigBox;
-    box.BeginRefill();
-    box.RemoveAllRoots();
-    std::exception_ptr raised;
-    ioState._isRebuilding = true;
-    ioState._isOutOfDate = true;
+/// Runs a step; keeps what it raises, unless one before it raised.
+template <class Step>
+void Attempt(Step iStep, std::exception_ptr& ioRaised) {
     try {
-        ioState._generator->GetBom(1);
-        ioState._isOutOfDate = false;
+        iStep();
+    } catch (...) {
+        ioRaised = ioRaised ? ioRaised : std::current_exception();
+    }
+}
+
+/// Computes the bill; false when a person cancels that, which is no error.
+bool Compute(VXMBomGenerator& ioGenerator) {
+    try {
+        ioGenerator.GetBom(1);
+        return true;
     } catch (const QORCancelled&) {
         VXMBomViewerTrace.TraPutLN("A rebuild of a BOMViewer was cancelled");
-    } catch (...) {
-        raised = std::current_exception();
+        return false;
     }
+}
+
+/// Builds the BOM anew and gives the box its new root; the root of the last BOM again where that raises an error, which
+/// then comes out.
+void Rebuild(VXMFabBomViewerState& ioState) {
+    QORNavigBox& box = *ioState._navigBox;
+    bool isComputed = false;
+    std::exception_ptr raised;
+    ioState._isOutOfDate = true;
+    box.BeginRefill();
+    box.RemoveAllRoots();
+    ioState._isRebuilding = true;
+    Attempt([&] { isComputed = Compute(*ioState._generator); }, raised);
     ioState._isRebuilding = false;
     if (ioState.HasTree()) {
-        ioState.TellRows();
-        box.AddRoot(VXMFabBomViewerState::MakeTreeObject(ioState._generator->GetBom(0)));
+        Attempt(
+            [&] {
+                ioState.TellRows();
+                box.AddRoot(VXMFabBomViewerState::MakeTreeObject(ioState._generator->GetBom(0)));
+            },
+            raised);
     }
-    box.EndRefill();
+    Attempt([&] { box.EndRefill(); }, raised);
     if (raised) {
         std::rethrow_exception(raised);
     }
+    ioState._isOutOfDate = !isComputed;
 }
 
 /// Brings what is shown in space in line with the objects of the BOM, when their number has changed.
