@@ -7,6 +7,7 @@
 #include "planner/file/SourceText.h"
 #include "planner/model/Item.h"
 
+#include <algorithm>
 #include <array>
 
 namespace planner {
@@ -198,6 +199,11 @@ void writeCsv(const Bill& bill, TextSink& sink) {
 }
 
 } // namespace
+
+Format formatNamed(std::string_view name) {
+    return std::find_if(kFormats.begin(), kFormats.end(), [&](const NamedFormat& each) { return name == each.name; })
+        ->format;
+}
 
 void writeBill(const Bill& bill, Format format, const std::string& title, TextSink& sink) {
     switch (format) {

@@ -19,6 +19,9 @@ struct NamedFormat {
 inline constexpr std::array<NamedFormat, 4> kFormats{
     {{"tree", Format::Tree}, {"xml", Format::Xml}, {"json", Format::Json}, {"csv", Format::Csv}}};
 
+/// The format of that name, one of those above.
+Format formatNamed(std::string_view name);
+
 /// Writes a bill in a format. The title heads the format for people.
 void writeBill(const Bill& bill, Format format, const std::string& title, TextSink& sink);
 

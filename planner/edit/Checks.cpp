@@ -56,6 +56,9 @@ void checkShape(const Shape& shape) {
     if (shape.part && shape.form != Shape::Form::Step) {
         throw EditError(Fault::BadValue, kPartWithoutFile);
     }
+    if (shape.form == Shape::Form::Step && shape.file.empty()) {
+        throw EditError(Fault::BadValue, "a shape of a file without the file's name");
+    }
     checkText(shape.file);
     checkText(shape.part.value_or(""));
 }

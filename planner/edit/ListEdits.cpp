@@ -46,7 +46,7 @@ void PlanEditor::checkMayDrop(const ModelObject& owner, const ObjectList& list) 
     if (!assembly || &list != &assembly->children) {
         return;
     }
-    for (const Mention& mention : mentions_.of(owner)) {
+    for (const MentioningList& mention : mentions_.of(owner)) {
         if (mention.list != &list && mention.list == listOf(*mention.owner, Relation::Children)) {
             throw EditError(EditError::Fault::InUse, quoted(owner) + " is a child of " + quoted(*mention.owner));
         }
@@ -94,7 +94,7 @@ void PlanEditor::takeFromList(ModelObject& owner, ObjectList& list, std::size_t 
 }
 
 void PlanEditor::takeMentions(const ModelObject& object) {
-    for (const Mention& mention : mentions_.of(object)) {
+    for (const MentioningList& mention : mentions_.of(object)) {
         for (std::size_t position = mention.list->size(); position > 0; --position) {
             if (mention.list->entries()[position - 1] == &object) {
                 takeFromList(*mention.owner, *mention.list, position - 1);

@@ -22,11 +22,11 @@ void visitMentions(ModelObject& owner, Visit visit) {
 
 } // namespace
 
-std::vector<Mention> Mentions::of(const ModelObject& object) {
+std::vector<MentioningList> Mentions::of(const ModelObject& object) {
     if (!made_) {
         make();
     }
-    std::vector<Mention> result;
+    std::vector<MentioningList> result;
     const auto found = byObject_.find(&object);
     if (found != byObject_.end()) {
         for (const auto& [list, mention] : found->second) {
@@ -38,7 +38,7 @@ std::vector<Mention> Mentions::of(const ModelObject& object) {
 
 void Mentions::came(const ModelObject& object, ModelObject& owner, ObjectList& list) {
     if (made_) {
-        ++byObject_[&object].try_emplace(&list, Mention{&owner, &list, 0}).first->second.count;
+        ++byObject_[&object].try_emplace(&list, MentioningList{&owner, &list, 0}).first->second.count;
     }
 }
 

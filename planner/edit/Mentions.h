@@ -10,7 +10,7 @@
 namespace planner {
 
 /// A list that names an object which stands elsewhere: an item, or a resource as a part of a product.
-struct Mention {
+struct MentioningList {
     ModelObject* owner;
     ObjectList* list;
     std::size_t count; ///< how often it does
@@ -23,7 +23,7 @@ public:
     explicit Mentions(Plan& plan) : plan_(plan) {}
 
     /// The lists that name the object, those of owners that stand in the plan, in no order.
-    std::vector<Mention> of(const ModelObject& object);
+    std::vector<MentioningList> of(const ModelObject& object);
 
     /// An object has come into a list of the owner, or gone.
     void came(const ModelObject& object, ModelObject& owner, ObjectList& list);
@@ -38,7 +38,7 @@ private:
 
     Plan& plan_;
     bool made_ = false;
-    std::unordered_map<const ModelObject*, std::unordered_map<const ObjectList*, Mention>> byObject_;
+    std::unordered_map<const ModelObject*, std::unordered_map<const ObjectList*, MentioningList>> byObject_;
 };
 
 } // namespace planner

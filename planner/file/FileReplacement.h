@@ -22,6 +22,12 @@ public:
     /// Where to write the content; negative when there is an error.
     int descriptor() const { return descriptor_; }
 
+    /// The same by its path, for writers that open files themselves.
+    const std::string& writtenPath() const { return temporary_.empty() ? path_ : temporary_; }
+
+    /// The other file, which goes when the new content doesn't come into place; empty for what is written to directly.
+    const std::string& temporaryPath() const { return temporary_; }
+
     /// Puts the content in place, unless writing it failed with the error number given. Gives what went wrong.
     std::optional<std::string> commit(int writeError);
 

@@ -13,6 +13,13 @@ void giveId(Plan& plan, ModelObject& object, const std::string& id, std::size_t 
     }
 }
 
+void ItemDraft::clear() {
+    std::vector<KeyPlace> keys = std::move(keys_); // its memory serves again
+    keys.clear();
+    *this = ItemDraft();
+    keys_ = std::move(keys);
+}
+
 void ItemDraft::text(Key key, std::string value, std::size_t offset) {
     if (key == Key::Id) {
         id_ = std::move(value);

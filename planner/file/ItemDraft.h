@@ -19,6 +19,9 @@ void giveId(Plan& plan, ModelObject& object, const std::string& id, std::size_t 
 /// of them, so the item is made at its end.
 class ItemDraft {
 public:
+    /// Begins another item.
+    void clear();
+
     void keySeen(Key key, std::size_t offset) { keys_.push_back({key, offset}); }
     void text(Key key, std::string value, std::size_t offset);
     void setAssigned(bool assigned) { assigned_ = assigned; }

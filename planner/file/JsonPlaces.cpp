@@ -8,11 +8,7 @@
 
 namespace planner {
 
-std::size_t TokenPlaces::startOfNext() const {
-    return std::min(text_.find_first_not_of(" \t\r\n,:", end_), text_.size());
-}
-
-void TokenPlaces::next() {
+void TokenPlaces::find() {
     constexpr std::string_view kNumberLetters = "+-.0123456789Ee";
     start_ = startOfNext();
     const char first = start_ < text_.size() ? text_[start_] : '\0';

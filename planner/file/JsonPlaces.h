@@ -48,23 +48,47 @@ public:
     WatchedIterator end() { return {text_.data() + text_.size(), &latest_}; }
 
     /// Moves on to the token of the event that the parser just raised. Call it once for each event.
-    void next();
+    void next() {
+        if (!isTold_) {
+            find();
+        }
+    }
+
+    /// Moves on to the token of an event whose end is known, for a parser that tells it; next() then does nothing.
+    void moveTo(std::size_t end) {
+        isTold_ = true;
+        start_ = startOfNext();
+        end_ = end > start_ ? end : start_ + 1; // at least a bracket
+    }
 
     /// The present token, and the offset where it begins.
     std::size_t start() const { return start_; }
     std::string_view token() const { return text_.substr(start_, end_ - start_); }
 
     /// Where the token after the present one begins.
-    std::size_t startOfNext() const;
+    std::size_t startOfNext() const {
+        std::size_t at = end_;
+        while (at < text_.size() && isBetweenTokens(text_[at])) {
+            ++at;
+        }
+        return at;
+    }
 
     /// Offset of the last byte that the parser has read.
     std::size_t lastRead() const;
 
 private:
+    static constexpr bool isBetweenTokens(char letter) {
+        return letter == ' ' || letter == '\n' || letter == ',' || letter == ':' || letter == '\t' || letter == '\r';
+    }
+
+    void find();
+
     std::string_view text_;
     const char* latest_;
     std::size_t start_ = 0;
     std::size_t end_;
+    bool isTold_ = false;
 };
 
 /// JSON pointers of the values or keys that begin at the offsets, which ascend. The middle of a long pointer is left

@@ -22,7 +22,7 @@ Resource& resourceOf(ModelObject* object) {
 ModelObject* PlanBuilder::begin(Value object, ModelObject* container) {
     switch (object) {
     case Value::Item:
-        item_ = ItemDraft();
+        item_.clear();
         return nullptr;
     case Value::Shape:
         shape_ = ShapeDraft();
@@ -111,11 +111,13 @@ void PlanBuilder::activityKind(Activity& activity, const ValuePlace& place, cons
     const bool isRoot = place.object == Value::Process;
     const auto known = std::find(kActivityKinds.begin(), kActivityKinds.end(), word);
     const auto kind = static_cast<ActivityKind>(known - kActivityKinds.begin());
-    const std::string expected = "; expected " + alternatives({kActivityKinds.begin(), kActivityKinds.end() - isRoot});
+    const auto expected = [isRoot] {
+        return "; expected " + alternatives({kActivityKinds.begin(), kActivityKinds.end() - isRoot});
+    };
     if (known == kActivityKinds.end()) {
-        faults_.addValue(place.offset, "unknown kind of activity " + inQuotes(word) + expected);
+        faults_.addValue(place.offset, "unknown kind of activity " + inQuotes(word) + expected());
     } else if (isRoot && kind == ActivityKind::Logical) {
-        faults_.addValue(place.offset, "the root of the process is " + inQuotes(word) + expected);
+        faults_.addValue(place.offset, "the root of the process is " + inQuotes(word) + expected());
     } else {
         activity.setKind(kind);
     }

@@ -21,6 +21,7 @@ constexpr std::array<std::string_view, kKeyCount> kKeyNames{"activities",
                                                             relationText(Relation::Holds),
                                                             "id",
                                                             relationText(Relation::Items),
+                                                            relationText(Relation::Joins),
                                                             "kind",
                                                             "links",
                                                             "name",
@@ -50,8 +51,9 @@ const std::vector<KeyRule> kDocumentKeys{{Key::Plan, Value::Text},       {Key::V
 const std::vector<KeyRule> kItemKeys{{Key::Id, Value::Text, kRequired}, {Key::Name, Value::Text},
                                      {Key::Notes, Value::Notes},        {Key::Kind, Value::Text, kRequired},
                                      {Key::Type, Value::Text},          {Key::Assigned, Value::Flag},
-                                     {Key::Children, Value::Ids},       {Key::Holds, Value::Ids},
-                                     {Key::Shape, Value::Shape},        {Key::Place, Value::Numbers}};
+                                     {Key::Joins, Value::Ids},          {Key::Children, Value::Ids},
+                                     {Key::Holds, Value::Ids},          {Key::Shape, Value::Shape},
+                                     {Key::Place, Value::Numbers}};
 
 const std::vector<KeyRule> kShapeKeys{{Key::Box, Value::Numbers},    {Key::Cylinder, Value::Numbers},
                                       {Key::Sphere, Value::Numbers}, {Key::Step, Value::Text},
@@ -160,6 +162,8 @@ Relation relationOf(Key key) {
         return Relation::Outputs;
     case Key::Children:
         return Relation::Children;
+    case Key::Joins:
+        return Relation::Joins;
     default:
         return Relation::Holds;
     }
@@ -173,6 +177,7 @@ bool hasKey(ItemKind kind, Key key) {
         return kind == ItemKind::Assembly;
     case Key::Type:
     case Key::Assigned:
+    case Key::Joins:
         return kind == ItemKind::Fastener;
     default:
         return true;

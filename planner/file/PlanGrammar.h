@@ -56,6 +56,7 @@ enum class Key : std::uint8_t {
     Holds,
     Id,
     Items,
+    Joins,
     Kind,
     Links,
     Name,
@@ -74,7 +75,7 @@ enum class Key : std::uint8_t {
     Version
 };
 
-inline constexpr std::size_t kKeyCount = 26;
+inline constexpr std::size_t kKeyCount = 27;
 
 /// A key that an object may have, or must.
 struct KeyRule {

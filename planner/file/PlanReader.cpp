@@ -1,5 +1,6 @@
 #include "planner/file/PlanReader.h"
 
+#include "planner/file/FaultlessJson.h"
 #include "planner/file/PlanHandler.h"
 #include "planner/file/SourceText.h"
 
@@ -7,7 +8,7 @@
 
 namespace planner {
 
-ReadResult readPlan(const std::string& path) {
+ReadResult readPlan(const std::string& path, std::string* kept) {
     const std::string name = sourceName(path);
     std::string text;
     if (const auto error = readSource(path, text)) {
@@ -18,8 +19,31 @@ ReadResult readPlan(const std::string& path) {
     if (result.plan) {
         result.plan->folder = file.parent_path().string();
     }
+    if (kept) {
+        *kept = std::move(text);
+    }
     return result;
 }
+
+namespace {
+
+/// A plan from a text without any fault; null for any other text.
+std::unique_ptr<Plan> parseFaultless(std::string_view text, const std::string& title) {
+    Faults faults;
+    auto plan = std::make_unique<Plan>();
+    plan->fallbackTitle = title;
+    PlanBuilder builder(*plan, faults);
+    const std::size_t begin = signatureLength(text);
+    TokenPlaces places(text, begin);
+    PlanHandler handler(places, builder, faults);
+    if (!readFaultlessJson(text, begin, places, handler)) {
+        return nullptr;
+    }
+    builder.finish(text);
+    return faults.empty() ? std::move(plan) : nullptr;
+}
+
+} // namespace
 
 ReadResult parsePlan(std::string_view text, const std::string& name, const std::string& title) {
     if (text.empty()) {
@@ -30,6 +54,8 @@ ReadResult parsePlan(std::string_view text, const std::string& name, const std::
     plan->fallbackTitle = title;
     if (const auto fault = findEncodingFault(text)) {
         faults.addSyntax(fault->offset, fault->message);
+    } else if (auto faultless = parseFaultless(text, title)) {
+        return {std::move(faultless), {}};
     } else {
         PlanBuilder builder(*plan, faults);
         TokenPlaces places(text, signatureLength(text));

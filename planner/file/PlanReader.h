@@ -16,8 +16,8 @@ struct ReadResult {
     std::vector<std::string> errors;
 };
 
-/// Reads the plan file of that path, "-" being standard input.
-ReadResult readPlan(const std::string& path);
+/// Reads the plan file of that path, "-" being standard input. Its text is left where somebody wants it.
+ReadResult readPlan(const std::string& path, std::string* text = nullptr);
 
 /// Reads a plan from its text. The name goes in front of errors; the title is what the plan is called when it doesn't
 /// say so itself.

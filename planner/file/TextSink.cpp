@@ -24,6 +24,11 @@ int TextSink::finish() {
 }
 
 void TextSink::flush() {
+    if (text_) {
+        *text_ += buffer_;
+        buffer_.clear();
+        return;
+    }
     std::string_view rest = buffer_;
     while (!rest.empty() && error_ == 0) {
         const ssize_t written = ::write(descriptor_, rest.data(), rest.size());

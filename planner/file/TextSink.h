@@ -6,11 +6,12 @@
 
 namespace planner {
 
-/// Buffered text on a file descriptor, which stays the caller's. The first write that fails is remembered, and what
-/// comes after it is dropped, so that a writer needs to ask only once, at its end.
+/// Buffered text on a file descriptor or into a string, which stay the caller's. The first write that fails is
+/// remembered, and what comes after it is dropped, so that a writer needs to ask only once, at its end.
 class TextSink {
 public:
     explicit TextSink(int descriptor) : descriptor_(descriptor) {}
+    explicit TextSink(std::string& text) : descriptor_(-1), text_(&text) {}
     TextSink(const TextSink&) = delete;
     TextSink& operator=(const TextSink&) = delete;
 
@@ -35,6 +36,7 @@ private:
     void flush();
 
     int descriptor_;
+    std::string* text_ = nullptr; // null for a descriptor
     int error_ = 0;
     std::string buffer_;
 };

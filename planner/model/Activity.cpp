@@ -60,11 +60,13 @@ public:
 /// What the root has more than other activities.
 class Activity::Root {
 public:
-    explicit Root(Activity* activity) : root(activity), events(activity) {}
+    // The publisher here and not at its field: g++ 12 leaves one that can't be made in memory there.
+    explicit Root(Activity* activity)
+        : root(activity), events(activity), publisher(QORVar<PlanPublisher>::Adopt(new PlanPublisher())) {}
 
     QORISPPActivityRootTie<Activity> root;
     QORISPPActivityModificationEventsTie<Activity> events;
-    QORVar<PlanPublisher> publisher = QORVar<PlanPublisher>::Adopt(new PlanPublisher());
+    QORVar<PlanPublisher> publisher;
 };
 
 Activity::Activity() : FlowObject(Sort::Activity) {}

@@ -46,9 +46,15 @@ QORBaseUnknown* createControl() {
 
 } // namespace
 
-FastenerSettings::FastenerSettings()
-    : class_(kComponent, ENUMTypeOfClass::Implementation, QORMetaClass::OfBaseUnknown(), "QORNull", "planner",
-             createControl) {}
+FastenerSettings::FastenerSettings() {
+    static std::weak_ptr<QORMetaClass> registered;
+    class_ = registered.lock();
+    if (!class_) {
+        class_ = std::make_shared<QORMetaClass>(kComponent, ENUMTypeOfClass::Implementation,
+                                                QORMetaClass::OfBaseUnknown(), "QORNull", "planner", createControl);
+        registered = class_;
+    }
+}
 
 QORSettingStore& FastenerSettings::store() {
     return QORSettingStore::Of(kComponent);

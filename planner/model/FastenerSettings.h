@@ -3,10 +3,13 @@
 #include "QORPlatform/framework/QORMetaClass.h"
 #include "QORPlatform/settings/QORSettingStore.h"
 
+#include <memory>
+
 namespace planner {
 
-/// Registers the component of the fastener settings for as long as it lives. What the component answers is what the
-/// store holds: 1 is on, any other value off, and a value that was never set leaves the asker's own default.
+/// Keeps the component of the fastener settings registered; there may be several at a time. What the component answers
+/// is what the store holds: 1 is on, any other value off, and a value that was never set leaves the asker's own
+/// default.
 class FastenerSettings {
 public:
     FastenerSettings();
@@ -15,7 +18,7 @@ public:
     static QORSettingStore& store();
 
 private:
-    QORMetaClass class_;
+    std::shared_ptr<QORMetaClass> class_;
 };
 
 } // namespace planner

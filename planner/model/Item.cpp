@@ -74,4 +74,9 @@ QORStatus Fastener::QueryInterface(const QORInterfaceID& iInterface, void** oInt
     return status < 0 ? Item::QueryInterface(iInterface, oInterface) : status;
 }
 
+void Fastener::forgetNeighbours() {
+    Item::forgetNeighbours();
+    joins.reset();
+}
+
 } // namespace planner

@@ -111,7 +111,11 @@ public:
     /// Whether it counts as assigned; without a value it does.
     std::optional<bool> assigned;
 
+    /// What it joins, items of any kind. The bill doesn't ask for it.
+    ObjectList joins;
+
     QORStatus QueryInterface(const QORInterfaceID& iInterface, void** oInterface) override;
+    void forgetNeighbours() override;
 
     // Answers of VXMIBIWFastener.
     QORUnicodeString GetProcessType() const { return platformText(type.value_or("")); }

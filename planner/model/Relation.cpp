@@ -35,6 +35,10 @@ ObjectList* listOf(Item& item, Relation relation) {
         auto* const product = dynamic_cast<Product*>(&item);
         return product ? &product->children : nullptr;
     }
+    if (relation == Relation::Joins) {
+        auto* const fastener = dynamic_cast<Fastener*>(&item);
+        return fastener ? &fastener->joins : nullptr;
+    }
     auto* const assembly = relation == Relation::Holds ? dynamic_cast<Assembly*>(&item) : nullptr;
     return assembly ? &assembly->holds : nullptr;
 }

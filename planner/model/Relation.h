@@ -16,16 +16,17 @@ enum class Relation : std::uint8_t {
     Items,         ///< of an activity
     Outputs,       ///< of an activity, a behaviour
     Children,      ///< of a product, an assembly, a resource: product occurrences
-    Holds          ///< of an assembly
+    Holds,         ///< of an assembly
+    Joins          ///< of a fastener
 };
-inline constexpr std::array<Relation, 7> kRelations{Relation::FirstAssigned, Relation::Assigned, Relation::Removed,
+inline constexpr std::array<Relation, 8> kRelations{Relation::FirstAssigned, Relation::Assigned, Relation::Removed,
                                                     Relation::Items,         Relation::Outputs,  Relation::Children,
-                                                    Relation::Holds};
+                                                    Relation::Holds,         Relation::Joins};
 
 /// The word of the relation in the plan file.
 constexpr std::string_view relationText(Relation relation) {
     constexpr std::array<std::string_view, kRelations.size()> kTexts{"first_assigned", "assigned", "removed", "items",
-                                                                     "outputs",        "children", "holds"};
+                                                                     "outputs",        "children", "holds",   "joins"};
     return kTexts[static_cast<std::size_t>(relation)];
 }
 

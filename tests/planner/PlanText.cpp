@@ -44,8 +44,20 @@ std::string faultsOf(const std::string& text) {
 }
 
 std::string written(const planner::Plan& plan) {
-    const std::string path = makeFile("written", "");
-    EXPECT_EQ(planner::writePlanFile(plan, path), std::nullopt);
+    std::string text;
+    planner::TextSink sink(text);
+    planner::writePlan(plan, sink);
+    EXPECT_EQ(sink.finish(), 0);
+    return text;
+}
+
+std::string printed(const std::function<void(planner::TextSink&)>& print) {
+    const std::string path = makeFile("printed", "");
+    std::FILE* const file = std::fopen(path.c_str(), "w");
+    planner::TextSink sink(::fileno(file));
+    print(sink);
+    EXPECT_EQ(sink.finish(), 0);
+    std::fclose(file);
     return contentOf(path);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "planner/file/PlanReader.h"
+#include "planner/file/TextSink.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,6 +18,9 @@ std::string faultsOf(const std::string& text);
 
 /// The standard form of a plan.
 std::string written(const planner::Plan& plan);
+
+/// What a function puts on a sink.
+std::string printed(const std::function<void(planner::TextSink&)>& print);
 
 /// What a file holds, and a file in the test's own folder with that content.
 std::string contentOf(const std::string& path);

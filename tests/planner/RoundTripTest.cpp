@@ -51,7 +51,7 @@ const Case kCases[] = {
   "items": [
     {"id": "p", "name": "p", "kind": "product", "children": []},
     {"id": "a", "kind": "assembly", "children": ["p", "p"], "holds": ["a"]},
-    {"id": "f", "name": "", "kind": "fastener", "type": "Bolt", "assigned": false},
+    {"id": "f", "name": "", "kind": "fastener", "type": "Bolt", "assigned": false, "joins": ["p", "p"]},
     {"id": "i", "kind": "item", "shape": {"cylinder": [0.5, 1e+30]}, "place": [-1, 2.5, 3, 0, 90, 180]},
     {"id": "s", "kind": "item", "shape": {"step": "a b.stp", "part": "P", "notes": 1}}
   ]

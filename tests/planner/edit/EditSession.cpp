@@ -16,7 +16,7 @@ const char* const kWorld = R"({"version": 1,
     {"id": "panel", "kind": "product", "name": "Panel", "children": ["part", "part"]},
     {"id": "frame", "kind": "assembly", "name": "Frame", "holds": ["part", "panel", "part"]},
     {"id": "cell", "kind": "assembly", "children": ["panel"]},
-    {"id": "weld", "kind": "fastener", "type": "Spot Weld"},
+    {"id": "weld", "kind": "fastener", "type": "Spot Weld", "joins": ["part"]},
     {"id": "jig", "kind": "item", "shape": {"box": [1, 2, 3]}, "place": [4, 5, 6]},
     {"id": "kit", "kind": "product", "children": ["gripper", "part", "gripper"]}],
   "process": {"id": "line", "children": [

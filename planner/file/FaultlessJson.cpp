@@ -1,0 +1,86 @@
+#include "planner/file/FaultlessJson.h"
+
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+
+#include <cstdlib>
+#include <new>
+
+namespace planner {
+
+namespace {
+
+/// Memory for RapidJSON, which doesn't look whether it got any.
+struct ThrowingAllocator {
+    static constexpr bool kNeedFree = true; // NOLINT(readability-identifier-naming): RapidJSON's name
+
+    static void* Malloc(std::size_t size) { return size == 0 ? nullptr : checked(std::malloc(size)); }
+    static void* Realloc(void* old, std::size_t, std::size_t size) {
+        if (size == 0) {
+            Free(old);
+            return nullptr;
+        }
+        return checked(std::realloc(old, size));
+    }
+    static void Free(void* memory) { std::free(memory); }
+
+private:
+    static void* checked(void* memory) { return memory ? memory : throw std::bad_alloc(); }
+};
+
+/// Hands RapidJSON's events on.
+class Events {
+public:
+    using Handler = nlohmann::json_sax<nlohmann::json>;
+    using Letters = const char*;
+    using Count = rapidjson::SizeType;
+
+    Events(const rapidjson::MemoryStream& stream, std::size_t offset, TokenPlaces& places, Handler& handler)
+        : stream_(stream), offset_(offset), places_(places), handler_(handler) {}
+
+    bool Null() { return arrive().null(); }
+    bool Bool(bool value) { return arrive().boolean(value); }
+    bool Int(int value) { return arrive().number_integer(value); }
+    bool Int64(std::int64_t value) { return arrive().number_integer(value); }
+    bool Uint(unsigned value) { return arrive().number_unsigned(value); }
+    bool Uint64(std::uint64_t value) { return arrive().number_unsigned(value); }
+    bool Double(double value) { return arrive().number_float(value, {}); }
+    bool String(Letters letters, Count length, bool) { return arrive().string(text_.assign(letters, length)); }
+    bool Key(Letters letters, Count length, bool) { return arrive().key(text_.assign(letters, length)); }
+    bool StartObject() { return arrive().start_object(kUnknownCount); }
+    bool EndObject(Count) { return arrive().end_object(); }
+    bool StartArray() { return arrive().start_array(kUnknownCount); }
+    bool EndArray(Count) { return arrive().end_array(); }
+    bool RawNumber(Letters, Count, bool) { return false; } // comes only when asked for
+
+private:
+    static constexpr std::size_t kUnknownCount = static_cast<std::size_t>(-1);
+
+    /// RapidJSON stands behind the token whose event it raises, but before an opening bracket.
+    Handler& arrive() {
+        places_.moveTo(offset_ + stream_.Tell());
+        return handler_;
+    }
+
+    const rapidjson::MemoryStream& stream_;
+    std::size_t offset_;
+    TokenPlaces& places_;
+    Handler& handler_;
+    std::string text_; // of the latest string or key
+};
+
+} // namespace
+
+bool readFaultlessJson(std::string_view text, std::size_t offset, TokenPlaces& places,
+                       nlohmann::json_sax<nlohmann::json>& handler) {
+    // Iterative: a plan may be nested deeper than the thread's stack allows.
+    constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag;
+    ThrowingAllocator memory;
+    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator> reader(&memory);
+    rapidjson::MemoryStream stream(text.data() + offset, text.size() - offset);
+    Events events(stream, offset, places, handler);
+    // A null byte ends the text for RapidJSON, wherever it stands.
+    return reader.Parse<kFlags>(stream, events) && offset + stream.Tell() == text.size();
+}
+
+} // namespace planner
