@@ -2,17 +2,18 @@
 #include "planner/bill/BillFormats.h"
 #include "planner/bill/BillRemarks.h"
 #include "planner/cli/Commands.h"
+#include "planner/cli/Output.h"
+#include "planner/cli/SheetOutput.h"
+#include "planner/cli/Subject.h"
 #include "planner/cli/TraceFile.h"
 
 #include "planner/file/JsonText.h"
-#include "planner/file/SourceText.h"
 #include "planner/model/FastenerSettings.h"
+#include "planner/sheet/BillSheet.h"
 
 #include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <unistd.h>
+#include <charconv>
 
 namespace planner {
 
@@ -21,70 +22,56 @@ namespace {
 /// Steps above which a trace is big enough to be warned of.
 constexpr std::size_t kLongTrace = 2000;
 
-/// The object to analyse, null after saying why there is none.
-ModelObject* chooseRoot(const Plan& plan, const BomOptions& options) {
-    if (!options.root) {
-        return plan.process();
-    }
-    ModelObject* const object = plan.find(*options.root);
-    const std::string asked = "--root names " + inQuotes(*options.root) + ", which is ";
-    constexpr const char* kExpected = "; expected the id of an activity or a resource";
-    if (!object) {
-        complain(asked + "not in " + sourceName(options.plan) + kExpected);
-        return nullptr;
-    }
-    const bool isActivity = object->sort() == Sort::Activity;
-    const bool isLogical = isActivity && !static_cast<const Activity*>(object)->isStep();
-    if ((isActivity && !isLogical) || object->sort() == Sort::Resource) {
-        return object;
-    }
-    complain(asked + (isLogical ? "a logical node" : sortText(object->sort())) + kExpected);
-    return nullptr;
-}
-
-bool isSameFile(const std::string& left, const std::string& right) {
-    std::error_code missing; // two paths of which one leads nowhere are two files
-    return std::filesystem::equivalent(left, right, missing) && !missing;
-}
-
-/// Sets the thirteen switches of the fastener settings for this run.
-void setFasteners(const BomOptions& options) {
-    for (std::size_t i = 0; i < VXMFastenerTypes.size(); ++i) {
-        FastenerSettings::store().Set(VXMFastenerTypes[i].setting, options.fasteners[i] ? 1 : 0);
-    }
-    FastenerSettings::store().Set(VXMAssignedFastenersOnlySetting, options.unassignedFasteners ? 0 : 1);
-}
+/// What is to be computed.
+struct Task {
+    const Plan& plan;
+    ModelObject& root;
+    ModelObject* end; ///< the step at which the flow ends, null for its own end
+    long long maxNodes;
+};
 
 struct Computed {
     Bill bill;
     std::optional<std::string> remark;
 };
 
-Computed compute(ModelObject& root, const std::vector<const ModelObject*>& steps) {
+/// Nothing when the step at which the flow is to end isn't part of it, after saying so.
+std::optional<Computed> compute(const Task& task) {
     const FastenerSettings settings;
-    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(&root);
+    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(&task.root);
+    generator->SetEndOfFlow(task.end);
+    generator->SetMaxNodes(task.maxNodes);
     const DOM_Document document = generator->GetBom(0);
     Computed computed{readBill(document, generator->GetPreviewObjects()), {}};
-    computed.remark = remarkOn(*generator, steps, computed.bill.empty());
+    if (!task.end) {
+        computed.remark = remarkOnBill(task.plan, task.root, *generator, computed.bill.empty());
+    } else if (!generator->CheckUse(task.end)) {
+        complain("--at names " + inQuotes(task.end->name()) + ", which is no step of the flow of " +
+                 inQuotes(task.root.name()));
+        return std::nullopt;
+    } else if (task.end != &task.root && !objectsOnWayToEnd(*generator, task.root).contains(task.end)) {
+        computed.remark = "--at names " + inQuotes(task.end->name()) +
+                          ", which lies on no way to the end of the flow of " + inQuotes(task.root.name());
+    }
     return computed;
 }
 
 /// Computes with the trace going to a file. Nothing when the trace couldn't be written, after saying so.
-std::optional<Computed> computeTraced(ModelObject& root, const std::vector<const ModelObject*>& steps,
-                                      const BomOptions& options) {
-    if (isSameFile(*options.trace, options.plan)) {
+std::optional<Computed> computeTraced(const Task& task, const Arguments& arguments) {
+    const std::string path = arguments.text("--trace");
+    if (isSameFile(path, arguments.text("PLAN"))) {
         complain("--trace names the plan itself; expected another file");
         return std::nullopt;
     }
-    if (steps.size() > kLongTrace) {
-        complain("a trace of " + std::to_string(steps.size()) + " steps is long: it grows with their square");
+    if (const std::size_t steps = stepsFrom(task.root).size(); steps > kLongTrace) {
+        complain("a trace of " + std::to_string(steps) + " steps is long: it grows with their square");
     }
-    TraceFile trace(*options.trace);
+    TraceFile trace(path);
     if (const auto error = trace.startError()) {
         complain(*error);
         return std::nullopt;
     }
-    Computed computed = compute(root, steps);
+    std::optional<Computed> computed = compute(task);
     if (const auto error = trace.finish()) {
         complain(*error);
         return std::nullopt;
@@ -92,38 +79,50 @@ std::optional<Computed> computeTraced(ModelObject& root, const std::vector<const
     return computed;
 }
 
-/// What is said of an empty bill of a process in which nothing is to be found, when resources stand beside it.
-std::string remarkOnEmptyProcess(const Plan& plan) {
-    return "the bill is empty: the process lists nothing; name a resource with --root, as " +
-           inQuotes(plan.resources.entries().front()->id());
+/// The whole number behind an option. Nothing when it isn't one, after saying so.
+std::optional<long long> readCount(const Arguments& arguments, const std::string& option) {
+    const std::string text = arguments.text(option);
+    long long count = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
+    if (error != std::errc() || end != text.data() + text.size() || count < 0) {
+        complain(option + " is " + inQuotes(text) + "; expected a whole number, 0 or more");
+        return std::nullopt;
+    }
+    return count;
 }
 
 } // namespace
 
-Status runBom(const BomOptions& options) {
-    setFasteners(options);
-    const std::unique_ptr<Plan> plan = loadPlan(options.plan);
-    ModelObject* const root = plan ? chooseRoot(*plan, options) : nullptr;
-    if (!root) {
+Status runBom(const Arguments& arguments) {
+    const Subject subject = openSubject(arguments);
+    const std::unique_ptr<Output> output = subject.root ? Output::openBeside(arguments) : nullptr;
+    if (!output) {
         return Status::Bad;
     }
-    if (options.legacy) {
-        ::setenv("FAB_BOM_OLD_ALGORITHM", "TRUE", 1);
+    const std::optional<long long> maxNodes = readCount(arguments, "--max-nodes");
+    if (!maxNodes) {
+        return Status::Bad;
     }
-    const std::vector<const ModelObject*> steps = stepsFrom(*root);
-    const std::optional<Computed> computed =
-        options.trace ? computeTraced(*root, steps, options) : std::optional(compute(*root, steps));
+    Task task{*subject.plan, *subject.root, nullptr, *maxNodes};
+    if (arguments.has("--at")) {
+        task.end = findStep(*subject.plan, arguments, "--at");
+        if (!task.end) {
+            return Status::Bad;
+        }
+    }
+    const std::optional<Computed> computed = arguments.has("--trace") ? computeTraced(task, arguments) : compute(task);
     if (!computed) {
         return Status::Bad;
     }
     if (computed->remark) {
         complain(*computed->remark);
-    } else if (computed->bill.empty() && !options.root && !plan->resources.empty()) {
-        complain(remarkOnEmptyProcess(*plan));
     }
-    TextSink sink(STDOUT_FILENO);
-    writeBill(computed->bill, options.format, root->name(), sink);
-    return endOfOutput(sink.finish());
+    if (arguments.text("--format") == "xlsx") {
+        return writeWorkbook(*output, computed->bill.size(), "elements",
+                             [&](Workbook& workbook) { addBillSheet(workbook, computed->bill, subject.root->name()); });
+    }
+    writeBill(computed->bill, formatNamed(arguments.text("--format")), subject.root->name(), output->sink());
+    return output->finish();
 }
 
 } // namespace planner

@@ -1,7 +1,8 @@
 #include "planner/cli/Status.h"
 
+#include "planner/cli/RunProgress.h"
+
 #include <cstdio>
-#include <cstring>
 
 namespace planner {
 
@@ -10,16 +11,9 @@ void complain(std::string_view message) {
 }
 
 void complainPlain(std::string_view line) {
+    RunProgress::clearLine();
     const std::string text = std::string(line) + '\n';
     std::fwrite(text.data(), 1, text.size(), stderr);
-}
-
-Status endOfOutput(int error) {
-    if (error == 0) {
-        return Status::Good;
-    }
-    complain(std::string("standard output can't be written: ") + std::strerror(error));
-    return Status::Bad;
 }
 
 } // namespace planner

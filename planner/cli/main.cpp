@@ -1,12 +1,14 @@
 // The planner on the command line.
 
-#include "planner/cli/Commands.h"
-#include "planner/cli/Options.h"
-#include "planner/cli/Status.h"
+#include "planner/cli/CommandLine.h"
+#include "planner/cli/Interrupt.h"
+#include "planner/cli/Output.h"
+#include "planner/cli/RunProgress.h"
 
 #include "planner/file/TextSink.h"
 
 #include "QORPlatform/framework/QORObjectCounts.h"
+#include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
 
 #include <cerrno>
 #include <exception>
@@ -28,19 +30,17 @@ void fillStandardDescriptors() {
 }
 
 Status run(const planner::CommandLine& line) {
-    if (line.bom) {
-        return runBom(*line.bom);
-    }
-    if (line.fmt) {
-        return runFmt(*line.fmt);
+    if (!line.error.empty()) {
+        planner::complain(line.error);
+        return Status::Bad;
     }
     if (line.print) {
         planner::TextSink sink(STDOUT_FILENO);
         sink.put(*line.print);
         return planner::endOfOutput(sink.finish());
     }
-    planner::complain(line.error);
-    return Status::Bad;
+    const planner::RunProgress progress;
+    return line.arguments->command().run(*line.arguments);
 }
 
 /// In debug builds every object must be gone at the end of a run.
@@ -58,9 +58,13 @@ Status checkNothingIsLeft(Status status) {
 
 int main(int argc, char** argv) {
     fillStandardDescriptors();
+    planner::watchForInterrupts();
     try {
         const Status status = run(planner::parseCommandLine(argc, argv));
         return static_cast<int>(checkNothingIsLeft(status));
+    } catch (const VXMTooManyNodes& error) {
+        planner::complain(error.what());
+        return static_cast<int>(checkNothingIsLeft(Status::Bad));
     } catch (const std::exception& error) {
         planner::complain(error.what());
         return static_cast<int>(Status::Broken);

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 using namespace plantext;
 using planner::Bill;
 using planner::Format;
@@ -17,13 +15,7 @@ namespace {
 class BillFormats : public testing::Test {
 protected:
     std::string print(const Bill& bill, Format format, const std::string& title = "Title") {
-        const std::string path = makeFile("bill", "");
-        std::FILE* const file = std::fopen(path.c_str(), "w");
-        planner::TextSink sink(::fileno(file));
-        writeBill(bill, format, title, sink);
-        EXPECT_EQ(sink.finish(), 0);
-        std::fclose(file);
-        return contentOf(path);
+        return printed([&](planner::TextSink& sink) { writeBill(bill, format, title, sink); });
     }
 
     /// An element of a bill; the object is the one of that id.

@@ -1,46 +1,17 @@
 // The program from outside: exit status, standard output, standard error.
 
+#include "Program.h"
 #include "PlanText.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace plantext;
 
 namespace {
-
-struct Outcome {
-    int status;
-    std::string output;
-    std::string errors;
-};
-
-/// Runs the program in a shell; in the arguments, % stands for the file that holds the plan. What stands in front of a
-/// bar gives standard input.
-Outcome run(const std::string& arguments, const std::string& plan = "") {
-    const std::string planFile = makeFile("plan", plan);
-    const std::string output = makeFile("output", "");
-    const std::string errors = makeFile("errors", "");
-    const std::size_t bar = arguments.find("| ");
-    std::string command = arguments;
-    command.insert(bar == std::string::npos ? 0 : bar + 2, PLANNER_PROGRAM " ");
-    for (std::size_t at = command.find('%'); at != std::string::npos; at = command.find('%', at)) {
-        command.replace(at, 1, planFile);
-    }
-    // The braces let the arguments redirect for themselves.
-    const int status = std::system(("{ " + command + "; } >" + output + " 2>" + errors).c_str());
-    std::string told = contentOf(errors);
-    for (std::size_t at = told.find(planFile); at != std::string::npos; at = told.find(planFile, at)) {
-        told.replace(at, planFile.size(), "%");
-    }
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(output), told};
-}
 
 constexpr const char* kPlan = R"({"version": 1, "plan": "Plan",
   "items": [{"id": "p", "kind": "product", "name": "P"}, {"id": "q", "kind": "product"},
@@ -85,10 +56,81 @@ const Case kGood[] = {
     {"NoFasteners", "bom % --fasteners none", "Line\n  P (product)\nTotal: 1 element: 1 product\n"},
     {"SomeFasteners", "bom % --fasteners stud,spot-weld --unassigned-fasteners",
      "Line\n  weld (fastener, Spot Weld)\n  P (product)\nTotal: 2 elements: 1 product, 1 fastener\n"},
+    {"AtAStep", "bom % --at a", "Line\n  P (product)\n  q (product)\nTotal: 2 elements: 2 products\n"},
+    {"AtTheLastStep", "bom % --at Line",
+     "Line\n  rivet (fastener, Rivet)\n  P (product)\n"
+     "Total: 2 elements: 1 product, 1 fastener\n"},
+    {"Explain", "explain % q", R"(q, product: not in the bill
+
+    Relation        Paths  What became of it
+  Line / a
+    first assigned      1  taken away by the removal in b
+  Line / b
+    removed             1  takes away the assignment in a
+)"},
+    {"Kits", "kits % --by step", R"(Line / a
+  brings in
+    1  P (p)  product
+    1  q      product
+
+Line / b
+  sets
+    1  Rivet
+    1  Spot Weld
+  takes away
+    1  q  product
+
+2 kits: 2 brought in with 0 parts, 2 fasteners, 0 put out. The bill has 2 elements.
+2 items don't add up:
+  Kits  Bill  Item  Reason
+     1     0  q     first assigned in a: taken away by the removal in b
+     1     0  weld  fastened in b: hidden: a fastener that isn't assigned
+)"},
     {"FmtOfStandardInput", "echo '{\"version\":1}' | fmt -", "{\n  \"version\": 1\n}\n"},
     {"Version", "--version", "planner 1.0.0\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Program, GoodRun, testing::ValuesIn(kGood), nameOf);
+
+TEST(ProgramCheck, GivesOneForFindingsThatCount) {
+    constexpr const char* kLost = R"({"version": 1, "items": [{"id": "p", "kind": "product"}],
+  "process": {"id": "line", "children": [{"id": "lost"}, {"id": "a"}, {"id": "b"}]}, "links": [["a", "b"]]})";
+    EXPECT_EQ(run("check --fail-on loop-in-links %", kPlan).status, 0) << "the weld that is found doesn't count";
+    EXPECT_EQ(run("check - <%", kLost).status, 1);
+    EXPECT_EQ(run("check % --fail-on step-off-flow", kLost).status, 1);
+    EXPECT_EQ(run("check % --fail-on loop-in-links,joined-part-absent", kLost).status, 0);
+    EXPECT_EQ(run("check % --root a --fail-on step-off-flow", kLost).status, 0);
+    const Outcome listed = run("check % --format json", kLost);
+    EXPECT_NE(listed.output.find(R"("place": {"line": 2, "column": 42})"), std::string::npos) << listed.output;
+    EXPECT_EQ(listed.errors, "");
+}
+
+TEST(ProgramBom, RefusesWhatMultipliesBeyondItsBound) {
+    constexpr const char* kForked = R"({"version": 1,
+  "items": [{"id": "p", "kind": "product"}, {"id": "a", "kind": "assembly", "holds": ["p"]}],
+  "process": {"id": "line", "children": [{"id": "s", "first_assigned": ["p"]}, {"id": "l", "first_assigned": ["a"]},
+    {"id": "r", "removed": ["a"]}, {"id": "j"}]}, "links": [["s", "l"], ["s", "r"], ["l", "j"], ["r", "j"]]})";
+    const Outcome refused = run("bom % --max-nodes 3", kForked);
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.output, "");
+    EXPECT_EQ(refused.errors,
+              "planner: steps on many paths would make about 4 nodes, more than 3: items \"p\" at steps \"s\"\n");
+    EXPECT_EQ(run("bom % --max-nodes 4", kForked).status, 0);
+
+    std::string deep =
+        R"({"version": 1, "process": {"id": "line", "children": [{"id": "s", "first_assigned": ["d0"]}, {"id": "t"}]}, "links": [["s", "t"]], "items": [)";
+    for (int level = 0; level < 50; ++level) {
+        const std::string below = "\"d" + std::to_string(level + 1) + "\"";
+        deep += R"({"id": "d)" + std::to_string(level) + R"(", "kind": "product", "children": [)" + below + ", " +
+                below + "]}, ";
+    }
+    deep += R"({"id": "d50", "kind": "product"}]})";
+    const Outcome multiplied = run("bom %", deep);
+    EXPECT_EQ(multiplied.status, 2);
+    EXPECT_EQ(multiplied.output, "");
+    EXPECT_EQ(multiplied.errors,
+              "planner: products bring at least 1099511627775 parts, more than 20000000: the latest is "
+              "\"d0\"; its parts stand in several places\n");
+}
 
 class BadRun : public testing::TestWithParam<Case> {};
 
@@ -102,14 +144,25 @@ TEST_P(BadRun, SaysWhyAndGivesTwo) {
 
 const Case kBad[] = {
     {"UnknownOption", "bom % --loud", "planner: The following argument was not expected: --loud"},
+    {"UnknownCommand", "bim %", "planner: \"bim\" is no command; expected one of bom, "},
     {"NoPlan", "bom", "planner: PLAN is required"},
-    {"UnknownFormat", "bom % --format yaml", "planner: --format: yaml not in {tree,xml,json,csv}"},
+    {"UnknownFormat", "bom % --format yaml", "planner: --format: yaml not in {tree,xml,json,csv,xlsx}"},
     {"UnknownFastener", "bom % --fasteners Rivet,Weld", "planner: --fasteners names \"Weld\"; expected all, none"},
     {"NoFastenerName", "bom % --fasteners Rivet,", "planner: --fasteners names \"\"; expected"},
+    {"UnknownCode", "check % --fail-on loops",
+     "planner: --fail-on names \"loops\"; expected loop-in-links, loop-in-flow"},
+    {"NoNumberOfNodes", "bom % --max-nodes many",
+     "planner: --max-nodes is \"many\"; expected a whole number, 0 or more"},
     {"UnknownRoot", "bom % --root x", "planner: --root names \"x\", which is not in %; expected the id of an activity"},
     {"ItemAsRoot", "bom % --root p", "planner: --root names \"p\", which is an item; expected"},
     {"BehaviourAsRoot", "bom % --root does", "planner: --root names \"does\", which is a behaviour; expected"},
     {"LogicalRoot", "bom % --root node", "planner: --root names \"node\", which is a logical node; expected"},
+    {"AtUnknownStep", "bom % --at x", "planner: --at names \"x\", which is not in %; expected the id or the name"},
+    {"AtAnItem", "bom % --at p", "planner: --at names \"p\", which is an item; expected"},
+    {"AtAStepOffTheFlow", "bom % --at node", "planner: --at names \"node\", which is no step of the flow of \"Line\""},
+    {"UnknownItem", "explain % p x",
+     "planner: ITEM names \"x\", which is not in %; expected the id or the name of an item"},
+    {"StepAsItem", "explain % a", "planner: ITEM names \"a\", which is an activity; expected"},
     {"MissingFile", "bom %.none", "%.none: can't be read: No such file or directory"},
     {"Directory", "bom /", "/: is a directory; expected a plan file"},
     {"EmptyFile", "fmt /dev/null", "/dev/null: is empty; expected a JSON object with the plan"},
@@ -131,11 +184,28 @@ class Remark : public testing::TestWithParam<std::array<const char*, 3>> {};
 /// Plans of which the bill is no surprise only to who knows the rules: one line says why.
 TEST_P(Remark, IsOneLineAndNoError) {
     const auto& [name, process, remark] = GetParam();
-    const Outcome ran = run("bom %", std::string(R"({"version": 1, "items": [{"id": "p", "kind": "product"},)") +
-                                         R"({"id": "f", "kind": "fastener", "type": "Bolt"},)" +
-                                         R"({"id": "g", "kind": "fastener", "type": "Rivet"}], )" + process + "}");
-    EXPECT_EQ(ran.status, 0);
-    EXPECT_EQ(ran.errors, remark) << name;
+    const std::string plan = std::string(R"({"version": 1, "items": [{"id": "p", "kind": "product"},)") +
+                             R"({"id": "f", "kind": "fastener", "type": "Bolt"},)" +
+                             R"({"id": "g", "kind": "fastener", "type": "Rivet"}], )" + process + "}";
+    for (const char* command : {"bom %", "kits %", "explain % p", "diff % %"}) {
+        const Outcome ran = run(command, plan);
+        EXPECT_EQ(ran.status, 0) << command;
+        std::string expected = remark;
+        if (!expected.empty() && command[0] == 'd') {
+            expected.insert(expected.find(' ') + 1, "%: ");
+        }
+        EXPECT_EQ(ran.errors, expected) << name << ' ' << command;
+    }
+}
+
+TEST(BomAt, SaysWhenAStepLiesOffTheFlow) {
+    constexpr const char* kLost = R"({"version": 1, "process": {"id": "line", "children": [{"id": "lost"},
+  {"id": "s", "kind": "station", "children": [{"id": "a"}]}, {"id": "b"}]}, "links": [["s", "b"]]})";
+    EXPECT_EQ(run("bom % --at lost", kLost).errors,
+              "planner: --at names \"lost\", which lies on no way to the end of the flow of \"line\"\n");
+    for (const char* step : {"s", "b", "line"}) {
+        EXPECT_EQ(run(std::string("bom % --at ") + step, kLost).errors, "") << step;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -236,6 +306,30 @@ TEST(Fmt, LeavesTheFileAloneWhenThePlanIsFaulty) {
     const std::string file = makeFile("alone", "old");
     EXPECT_EQ(run("fmt % -o " + file, "{}").status, 2);
     EXPECT_EQ(contentOf(file), "old");
+}
+
+TEST(Interrupted, RunsLeaveTheOldFileAndNothingBeside) {
+    const std::string folder = makeFile("interrupted", "") + ".d";
+    const Outcome ran =
+        runShell("rm -rf " + folder + " && mkdir " + folder + " && cd " + folder +
+                     " && echo old > bill && mkfifo trace; " PLANNER_PROGRAM " bom % -o bill --trace trace & "
+                     "until ls " +
+                     folder +
+                     "/bill.* >/dev/null 2>&1; do sleep 0.05; done; kill -TERM $!; wait $!; "
+                     "echo $?; cd " +
+                     folder + "; ls; cat bill",
+                 kPlan);
+    EXPECT_EQ(ran.output, "143\nbill\ntrace\nold\n") << ran.errors;
+}
+
+TEST(Progress, IsSeenOnATerminalOnlyAndGoes) {
+    const std::string slow = "(sleep 1.8; cat %) | ";
+    EXPECT_EQ(runShell(slow + PLANNER_PROGRAM " fmt - -o /dev/null", kPlan).errors, "");
+    const std::string terminal =
+        "python3 -c 'import pty, sys; pty.spawn([\"sh\", \"-c\", sys.argv[1]])' '" + slow + PLANNER_PROGRAM;
+    const Outcome seen = runShell(terminal + " fmt - -o /dev/null' </dev/null", kPlan);
+    EXPECT_EQ(seen.output.find("\r\033[Kplanner: reading the plan … 1 s"), 0U) << seen.output;
+    EXPECT_EQ(seen.output.substr(seen.output.size() - 4), "\r\033[K") << seen.output;
 }
 
 TEST(Deep, StructuresPassThroughEveryFormat) {
