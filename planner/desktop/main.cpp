@@ -9,6 +9,8 @@
 #include "planner/desktop/toolkit/LoopHook.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <cstdio>
 #include <exception>
@@ -23,6 +25,14 @@ int complain(const std::string& message) {
     return kBad;
 }
 
+/// Runs the event loop until what was put off is done.
+void settle() {
+    constexpr int kMoment = 100;
+    QEventLoop loop;
+    QTimer::singleShot(kMoment, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 int run(const planner::desktop::Options& options) {
     planner::desktop::MainWindow window;
     const QStringList faults = window.open(options);
@@ -35,7 +45,7 @@ int run(const planner::desktop::Options& options) {
     }
     window.show();
     if (options.screenshot) {
-        QApplication::processEvents();
+        settle();
         const bool written = window.grab().save(QString::fromStdString(*options.screenshot), "PNG");
         return written ? 0 : complain(*options.screenshot + " can't be written");
     }
@@ -60,6 +70,7 @@ int main(int argc, char** argv) {
     }
     try {
         QApplication app(argc, argv);
+        QApplication::setOrganizationName("planner");
         QApplication::setApplicationName("planner-desktop");
         QApplication::setApplicationVersion(PLANNER_VERSION);
         QApplication::setDesktopFileName("planner-desktop");

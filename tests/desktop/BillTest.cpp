@@ -9,6 +9,8 @@
 #include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/toolkit/FramePane.h"
 
+#include "planner/sheet/Workbook.h"
+
 #include "QORPlatform/visualization/QORVisManager.h"
 
 #include <QAction>
@@ -120,6 +122,26 @@ TEST(BillTest, TheFilterFindsRowsThatNobodyHasOpenedAndLeadsThere) {
     EXPECT_EQ(desk.window().choice().present(), &desk.object("pin"));
 }
 
+TEST(BillTest, ATabBearsTheNameThatItsRootHasNow) {
+    Desk desk;
+    const auto title = [&] {
+        return desk.window().area().current()->title();
+    };
+    desk.session().perform([&](planner::PlanEditor& editor) { editor.rename(desk.object("line"), "Hall"); });
+    EXPECT_EQ(title(), "Bill of Hall");
+    desk.session().undo();
+    EXPECT_EQ(title(), "Bill of line");
+}
+
+TEST(BillTest, APlanOfResourcesOpensTheBillOfTheFirst) {
+    Desk desk(R"({"version": 1, "items": [{"id": "arm", "kind": "product"}], "process": {"id": "none"},
+                  "resources": [{"id": "cell", "behaviour": {}, "children": [
+                    {"id": "robot", "behaviour": {"assigned": ["arm"]}}, {"id": "out", "behaviour": {}}]}],
+                  "links": [["robot", "out"]]})");
+    EXPECT_EQ(desk.window().area().current()->title(), "Bill of cell");
+    EXPECT_EQ(Desk::text(desk.bill()), "Bom(arm)");
+}
+
 TEST(BillTest, ABillIsExpandedCopiedAndExported) {
     Desk desk;
     desk.action("Expand All").trigger();
@@ -133,6 +155,8 @@ TEST(BillTest, ABillIsExpandedCopiedAndExported) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().endsWith("1,BOMFastener,rivet,rivet\r\n1,BOMNode,door,door\r\n"));
+    EXPECT_EQ(planner::desktop::writeBillFile(side.bill(), side.heading(), path + ".xlsx").isEmpty(),
+              !planner::Workbook::complaintOn(0, ""));
     EXPECT_NE(planner::desktop::writeBillFile(side.bill(), side.heading(), path + ".pdf"), "");
 }
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QMenu>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -75,7 +76,7 @@ QTreeView& Desk::bill() {
 
 QAction& Desk::action(const QString& text) {
     for (QAction* const each : window_->findChildren<QAction*>()) {
-        if (each->text().remove('&').startsWith(text)) {
+        if (!each->menu() && each->text().remove('&').startsWith(text)) {
             return *each;
         }
     }
@@ -156,6 +157,14 @@ QString Desk::text(const QTreeView& tree) {
         return parts.join(' ');
     };
     return below({});
+}
+
+QString Desk::links() {
+    QStringList texts;
+    for (const planner::Link& link : session().plan().links()) {
+        texts << QString::fromStdString(link.from->name() + '>' + link.to->name());
+    }
+    return texts.join(' ');
 }
 
 void Desk::type(const QString& keys, bool enter) {

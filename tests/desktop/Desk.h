@@ -56,6 +56,9 @@ public:
     /// Drags a row of one view onto a row of another by the mouse.
     static void drag(QAbstractItemView& from, const QString& name, QAbstractItemView& to, const QString& onto);
 
+    /// The plan's links, "one>two two>end".
+    QString links();
+
     /// A tree as text as far as it is open: "Bom(door hinge(pin))".
     static QString text(const QTreeView& tree);
 

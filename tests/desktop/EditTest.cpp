@@ -2,6 +2,7 @@
 
 #include "desktop/Desk.h"
 
+#include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/plan/RowChanges.h"
 
 #include "planner/model/Contents.h"
@@ -13,6 +14,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -30,14 +33,6 @@ QString names(const auto& list) {
     return names.join(' ');
 }
 
-QString links(Desk& desk) {
-    QStringList texts;
-    for (const planner::Link& link : desk.session().plan().links()) {
-        texts << QString::fromStdString(link.from->name() + '>' + link.to->name());
-    }
-    return texts.join(' ');
-}
-
 TEST(EditTest, FromAnEmptyWindowToFiveStepsWithABillByKeyboardAlone) {
     Desk desk("");
     for (const char* const name : {"cut", "bend", "weld", "paint", "pack"}) {
@@ -45,7 +40,7 @@ TEST(EditTest, FromAnEmptyWindowToFiveStepsWithABillByKeyboardAlone) {
         Desk::settle();
         desk.type(name, true);
     }
-    EXPECT_EQ(links(desk), "cut>bend bend>weld weld>paint paint>pack");
+    EXPECT_EQ(desk.links(), "cut>bend bend>weld weld>paint paint>pack");
     Desk::click(desk.plan(), "bend");
     QTest::keyClick(&desk.window(), Qt::Key_I, Qt::ControlModifier);
     Desk::settle();
@@ -54,6 +49,28 @@ TEST(EditTest, FromAnEmptyWindowToFiveStepsWithABillByKeyboardAlone) {
     Desk::settle();
     EXPECT_EQ(Desk::text(desk.bill()), "Bom(bracket)");
     EXPECT_EQ(Desk::text(desk.plan()), "New plan(cut bend(bracket) weld paint pack)");
+}
+
+TEST(EditTest, TheToolBarLeadsFromAnEmptyWindowToABillOfThePlan) {
+    Desk desk("");
+    const auto press = [&](const char* text) {
+        for (QToolButton* const button : desk.find<QToolBar>("tools").findChildren<QToolButton*>()) {
+            if (button->text() == text) {
+                QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
+                Desk::settle();
+            }
+        }
+    };
+    press("Add Step");
+    desk.type("cut", true);
+    press("Add Product");
+    desk.type("sheet", true);
+    Desk::click(desk.plan(), "cut");
+    press("Add Step");
+    desk.type("bend", true);
+    press("Open Bill");
+    EXPECT_EQ(Desk::text(desk.bill()), "Bom(sheet)");
+    EXPECT_EQ(desk.links(), "cut>bend");
 }
 
 TEST(EditTest, StepsAreNamedMovedLinkedAndRemovedInTheTree) {
@@ -71,7 +88,7 @@ TEST(EditTest, StepsAreNamedMovedLinkedAndRemovedInTheTree) {
     Desk::click(desk.plan(), "first");
     Desk::click(desk.plan(), "end", Qt::ControlModifier);
     desk.action("Link in Order").trigger();
-    EXPECT_EQ(links(desk), "first>two two>end first>end");
+    EXPECT_EQ(desk.links(), "first>two two>end first>end");
     Desk::click(desk.plan(), "two");
     QTest::keyClick(&desk.plan(), Qt::Key_Delete);
     EXPECT_EQ(Desk::text(desk.plan()), "line(first end)");
@@ -116,6 +133,30 @@ TEST(EditTest, PropertiesAreWrittenAndFollow) {
     size.selectAll();
     desk.type("500", true);
     EXPECT_EQ(static_cast<planner::Item&>(desk.object("door")).geometry().shape->sizes[0], 500);
+    EXPECT_EQ(desk.window().choice().present(), &desk.object("door"));
+    desk.session().undo();
+    EXPECT_EQ(size.value(), 900);
+    EXPECT_EQ(static_cast<planner::Item&>(desk.object("door")).geometry().shape->sizes[0], 900);
+}
+
+TEST(EditTest, AFieldThatGoesAwayWithItsShapeWritesNothing) {
+    Desk desk;
+    Desk::click(desk.find<QListView>("item-list"), "door");
+    auto& door = static_cast<planner::Item&>(desk.object("door"));
+    planner::Shape step;
+    step.form = planner::Shape::Form::Step;
+    step.file = "parts.step";
+    desk.session().perform([&](planner::PlanEditor& editor) { editor.setShape(door, step); });
+    desk.session().perform([&](planner::PlanEditor& editor) { editor.setShape(door, std::nullopt); });
+    desk.action("Undo").trigger();
+    desk.find<QLineEdit>("shape-part").setFocus();
+    desk.action("Redo").trigger();
+    EXPECT_FALSE(door.geometry().shape);
+    EXPECT_FALSE(desk.action("Redo").isEnabled());
+    desk.action("Undo").trigger();
+    EXPECT_EQ(door.geometry().shape->file, "parts.step");
+    step.file.clear();
+    EXPECT_FALSE(desk.session().perform([&](planner::PlanEditor& editor) { editor.setShape(door, step); }));
 }
 
 struct RowsCase {

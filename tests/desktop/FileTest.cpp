@@ -5,13 +5,18 @@
 #include "planner/desktop/app/FileCommands.h"
 #include "planner/desktop/plan/Recovery.h"
 #include "planner/desktop/widgets/InfoBar.h"
+#include "planner/desktop/widgets/SaveName.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -60,6 +65,45 @@ TEST(FileTest, TheTitleMarksWhatIsNotSavedAndSavingWritesIt) {
     EXPECT_EQ(planner::desktop::FileCommands::recentFiles().front(), desk.file());
 }
 
+TEST(FileTest, WhatIsStillBeingTypedIsSavedOrAskedAbout) {
+    Desk desk;
+    const auto typeName = [&](const char* name) {
+        Desk::click(desk.plan(), desk.object("one").name().c_str());
+        auto& field = desk.find<QLineEdit>("name");
+        field.setFocus();
+        field.selectAll();
+        desk.type(name);
+    };
+    typeName("First");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(readText(desk.file()).contains("First"));
+    typeName("Later");
+    QString question;
+    QTimer::singleShot(50, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        question = box->text();
+        box->button(QMessageBox::Cancel)->click();
+    });
+    EXPECT_FALSE(desk.window().close());
+    EXPECT_TRUE(question.contains("Save the changes"));
+    EXPECT_EQ(desk.object("one").name(), "Later");
+}
+
+TEST(FileTest, AnEndingIsAddedToTheNameAloneAndReplacesNothingUnasked) {
+    Desk desk;
+    using planner::desktop::withEnding;
+    const QString folder = QFileInfo(desk.file()).path();
+    const QString plain = folder + "/shop";
+    EXPECT_EQ(withEnding(nullptr, "", "csv"), "");
+    EXPECT_EQ(withEnding(nullptr, folder + "/a.txt", "csv"), folder + "/a.txt");
+    EXPECT_EQ(withEnding(nullptr, "/v1.2/shop", "csv"), "/v1.2/shop.csv");
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        QTimer::singleShot(
+            50, [answer] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->button(answer)->click(); });
+        EXPECT_EQ(withEnding(&desk.window(), plain, "plan.json"), answer == QMessageBox::Yes ? desk.file() : "");
+    }
+}
+
 TEST(FileTest, AFileChangedOutsideIsReadAgainWhenAPersonWantsIt) {
     Desk desk;
     const auto isAsked = [&] {
@@ -94,6 +138,21 @@ TEST(FileTest, WhatAKilledProcessHasNotSavedIsOffered) {
     EXPECT_EQ(desk.session().path(), file);
     EXPECT_TRUE(desk.window().isWindowModified());
     EXPECT_TRUE(Recovery::left().empty());
+}
+
+TEST(FileTest, ARefusalStandsBelowAnOfferThatCanStillBeTaken) {
+    Desk desk;
+    auto& bar = desk.find<InfoBar>("info-bar");
+    bool isTaken = false;
+    bar.say("Reload?", {{"Yes", [&] {
+                             isTaken = true;
+                         }}});
+    bar.say("That can't be.");
+    EXPECT_EQ(bar.text(), "Reload?\nThat can't be.");
+    answer(desk, "Yes");
+    EXPECT_TRUE(isTaken);
+    bar.say("Alone.");
+    EXPECT_EQ(bar.text(), "Alone.");
 }
 
 struct RunCase {

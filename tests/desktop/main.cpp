@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication app(argc, argv);
+    QApplication::setOrganizationName("planner");
     QApplication::setApplicationName("planner-desktop");
     QApplication::setStyle("Fusion");
     const planner::desktop::LoopHook hook;

@@ -5,13 +5,16 @@
 #include "planner/desktop/plan/PlanSession.h"
 #include "planner/desktop/plan/Recovery.h"
 #include "planner/desktop/widgets/InfoBar.h"
+#include "planner/desktop/widgets/SaveName.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
 
 namespace planner::desktop {
@@ -32,7 +35,7 @@ FileCommands::FileCommands(PlanSession& session, InfoBar& bar, QWidget* window)
       recovery_(new Recovery(session)), watch_(new FileWatch(session)) {
     save->setShortcut(QKeySequence::Save);
     saveAs->setShortcut(QKeySequence::SaveAs);
-    connect(save, &QAction::triggered, this, &FileCommands::runSave);
+    connect(save, &QAction::triggered, this, &FileCommands::saveChanges);
     connect(saveAs, &QAction::triggered, this, &FileCommands::runSaveAs);
     connect(recent, &QMenu::aboutToShow, this, &FileCommands::fillRecent);
     connect(&session_, &PlanSession::saved, this, &FileCommands::remember);
@@ -101,20 +104,38 @@ bool FileCommands::write(const QString& path) {
     return error.isEmpty();
 }
 
+/// What is being typed in a field becomes an edit, as if the field had been left.
+void FileCommands::takeTyped() {
+    const QPointer<QWidget> field = QApplication::focusWidget();
+    if (field && window_->isAncestorOf(field)) {
+        field->clearFocus();
+        if (field && field->isVisible()) {
+            field->setFocus();
+        }
+    }
+}
+
+void FileCommands::saveChanges() {
+    takeTyped();
+    if (session_.isModified() || !QFileInfo::exists(session_.path())) {
+        runSave();
+    }
+}
+
 bool FileCommands::runSave() {
     return session_.path().isEmpty() ? runSaveAs() : write(session_.path());
 }
 
 bool FileCommands::runSaveAs() {
+    takeTyped();
     const QString proposed = session_.path().isEmpty() ? folder() + "/new.plan.json" : session_.path();
-    QString path = QFileDialog::getSaveFileName(window_, "Save the plan", proposed, kFilter);
-    if (path.isEmpty()) {
-        return false;
-    }
-    return write(path.contains('.') ? path : path + ".plan.json");
+    const QString chosen = QFileDialog::getSaveFileName(window_, "Save the plan", proposed, kFilter);
+    const QString path = withEnding(window_, chosen, "plan.json");
+    return !path.isEmpty() && write(path);
 }
 
 bool FileCommands::mayLeave() {
+    takeTyped();
     if (!session_.isModified()) {
         return true;
     }

@@ -43,6 +43,8 @@ private:
     QAction* make(const QString& text, const QString& iconName, const QKeySequence& keys, void (FileCommands::*run)());
     void runNew();
     void runOpen();
+    void takeTyped();
+    void saveChanges();
     bool runSave();
     bool runSaveAs();
     void reload();

@@ -9,10 +9,14 @@
 #include "planner/desktop/flow/FlowPane.h"
 #include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/plan/ItemPane.h"
+#include "planner/desktop/plan/PlanClipboard.h"
 #include "planner/desktop/plan/PlanCommands.h"
 #include "planner/desktop/plan/PlanPane.h"
 #include "planner/desktop/plan/PlanSession.h"
 #include "planner/desktop/properties/PropertyPane.h"
+#include "planner/desktop/questions/AnswerPane.h"
+#include "planner/desktop/questions/Findings.h"
+#include "planner/desktop/questions/Questions.h"
 #include "planner/desktop/settings/FastenerDialog.h"
 #include "planner/desktop/toolkit/Progress.h"
 #include "planner/desktop/widgets/InfoBar.h"
@@ -23,8 +27,11 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace planner::desktop {
 
@@ -32,7 +39,8 @@ MainWindow::MainWindow()
     : session_(new PlanSession(this)), choice_(new Choice(*session_)), bar_(new InfoBar(this)),
       start_(new StartPage(this)), area_(new BomArea(start_, this)), desk_(new BomDesk(*session_, *choice_, *area_)),
       progress_(new Progress(this)), commands_(new PlanCommands(*session_, *choice_, this)),
-      files_(new FileCommands(*session_, *bar_, this)) {
+      files_(new FileCommands(*session_, *bar_, this)), clipboard_(new PlanClipboard(*session_)),
+      findings_(new Findings(*session_)), questions_(new Questions(*session_, *choice_, *desk_, *findings_, this)) {
     applyFasteners(readFasteners());
     setAcceptDrops(true);
     setStatusBar(new StatusLine(*session_, this));
@@ -52,6 +60,9 @@ MainWindow::MainWindow()
     connect(session_, &PlanSession::fileStateChanged, this, &MainWindow::followEdits);
     connect(session_, &PlanSession::replaced, bar_, &QWidget::hide);
     connect(choice_, &Choice::changed, this, &MainWindow::enable);
+    connect(questions_, &Questions::answered, this, &MainWindow::answer);
+    connect(answers_, &AnswerPane::followed, this, &MainWindow::revealInPlan);
+    connect(clipboard_, &PlanClipboard::changed, this, &MainWindow::enable);
     connect(area_, &BomArea::currentChanged, this, &MainWindow::enable);
     followFile();
     followEdits();
@@ -78,16 +89,25 @@ void MainWindow::makePanes() {
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    plan_ = new PlanPane(*session_, *choice_);
-    items_ = new ItemPane(*session_, *choice_);
-    addPane(Qt::LeftDockWidgetArea, "Plan", "plan", plan_);
-    addPane(Qt::LeftDockWidgetArea, "Items", "items", items_);
-    addPane(Qt::RightDockWidgetArea, "Properties", "properties", new PropertyPane(*session_, *choice_));
-    addPane(Qt::BottomDockWidgetArea, "Flow", "flow", new FlowPane(*session_, *choice_));
+    plan_ = new PlanPane(*session_, *choice_, *findings_);
+    items_ = new ItemPane(*session_, *choice_, *findings_);
+    flow_ = new FlowPane(*session_, *choice_, *findings_,
+                         [this](const ModelObject& root) { return desk_->generatorOn(root); });
+    properties_ = new PropertyPane(*session_, *choice_);
+    addPane(Qt::LeftDockWidgetArea, "&Plan", "plan", plan_);
+    addPane(Qt::LeftDockWidgetArea, "&Items", "items", items_);
+    addPane(Qt::RightDockWidgetArea, "P&roperties", "properties", properties_);
+    addPane(Qt::BottomDockWidgetArea, "&Flow", "flow", flow_);
+    answers_ = new AnswerPane(*session_, *choice_);
+    addPane(Qt::BottomDockWidgetArea, "A&nswers", "answer-pane", answers_);
+    tabifyDockWidget(findChild<QDockWidget*>("flow"), findChild<QDockWidget*>("answer-pane"));
+    findChild<QDockWidget*>("answer-pane")->hide(); // until something is asked
 }
 
+/// The title has its access key in menus only.
 void MainWindow::addPane(Qt::DockWidgetArea area, const QString& title, const QString& name, QWidget* content) {
-    auto* const dock = new QDockWidget(title, this);
+    auto* const dock = new QDockWidget(QString(title).remove('&'), this);
+    dock->toggleViewAction()->setText(title);
     dock->setObjectName(name);
     dock->setWidget(content);
     addDockWidget(area, dock);
@@ -95,19 +115,20 @@ void MainWindow::addPane(Qt::DockWidgetArea area, const QString& title, const QS
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    constexpr int kWidth = 1280;
-    constexpr int kHeight = 820;
+    constexpr QSize kComfortable(1440, 900);
+    constexpr double kOfTheScreen = 0.94;
     if (restoreGeometry(settings.value("geometry").toByteArray()) &&
         restoreState(settings.value("layout").toByteArray())) {
         return;
     }
-    resize(kWidth, kHeight);
+    resize(kComfortable.boundedTo(screen()->availableSize() * kOfTheScreen));
     const auto dock = [this](const char* name) {
         return findChild<QDockWidget*>(name);
     };
-    resizeDocks({dock("plan"), dock("properties")}, {300, 270}, Qt::Horizontal);
-    resizeDocks({dock("plan"), dock("items")}, {460, 260}, Qt::Vertical);
-    resizeDocks({dock("flow")}, {210}, Qt::Vertical);
+    const int most = width() / 4; // on a small screen the bill needs the room
+    resizeDocks({dock("plan"), dock("properties")}, {std::min(310, most), std::min(290, most)}, Qt::Horizontal);
+    resizeDocks({dock("plan"), dock("items")}, {500, 300}, Qt::Vertical);
+    resizeDocks({dock("flow")}, {230}, Qt::Vertical);
 }
 
 QStringList MainWindow::open(const Options& options) {
@@ -117,7 +138,8 @@ QStringList MainWindow::open(const Options& options) {
             return faults;
         }
     }
-    ModelObject* const root = options.root ? session_->plan().find(*options.root) : session_->plan().process();
+    ModelObject* const root =
+        options.root ? session_->plan().find(*options.root) : &BomDesk::usualRoot(session_->plan());
     if (!root || !BomDesk::isRoot(*root)) {
         return {"--root names \"" + QString::fromStdString(*options.root) +
                 "\", which is no activity or resource of the plan"};
@@ -132,11 +154,9 @@ void MainWindow::say(const QString& text) {
     bar_->say(text);
 }
 
-void MainWindow::openBill(int mode) {
-    ModelObject* const present = choice_->present();
-    const bool isRoot = choice_->objects().size() == 1 && BomDesk::isRoot(*present);
+void MainWindow::openBill(ModelObject& root, int mode) {
     keepBillMode(mode);
-    desk_->open(isRoot ? *present : *session_->plan().process(), mode);
+    desk_->open(root, mode);
 }
 
 void MainWindow::revealInPlan() {
@@ -170,7 +190,9 @@ void MainWindow::editName(ModelObject& object) {
 }
 
 void MainWindow::rename() {
-    if (ModelObject* const present = choice_->present()) {
+    if (plan_->hasFocus()) {
+        plan_->editCurrent();
+    } else if (ModelObject* const present = choice_->present()) {
         editName(*present);
     }
 }
@@ -178,9 +200,35 @@ void MainWindow::rename() {
 void MainWindow::remove() {
     if (items_->hasKeyboard()) {
         items_->removeSelected();
+    } else if (flow_->hasKeyboard()) {
+        flow_->removeChosen();
     } else {
         plan_->removeSelected();
     }
+}
+
+void MainWindow::cutOrCopy(void (PlanClipboard::*take)(const std::vector<PlanDrag::Entry>& rows)) {
+    std::vector<PlanDrag::Entry> rows = plan_->hasFocus() ? plan_->selectedRows() : std::vector<PlanDrag::Entry>();
+    if (rows.empty()) {
+        for (const auto& object : choice_->objects()) {
+            rows.push_back({PlanRow{object.Get()}});
+        }
+    }
+    (clipboard_->*take)(rows);
+}
+
+void MainWindow::paste() {
+    ModelObject* const present = choice_->present();
+    if (clipboard_->canPaste(present) && !clipboard_->paste(*present)) {
+        plan_->askRelation(present, clipboard_->objects(), plan_->menuPlace());
+    }
+}
+
+void MainWindow::answer(const QString& text) {
+    answers_->setHtml(text);
+    auto* const dock = findChild<QDockWidget*>("answer-pane");
+    dock->show();
+    dock->raise();
 }
 
 void MainWindow::chooseFasteners() {
@@ -205,7 +253,6 @@ void MainWindow::followFile() {
     setWindowTitle(name + "[*] – Planner");
     setWindowFilePath(session_->path());
     setWindowModified(session_->isModified());
-    files_->save->setEnabled(session_->isModified() || session_->path().isEmpty());
 }
 
 void MainWindow::followEdits() {
@@ -223,6 +270,15 @@ void MainWindow::enable() {
     for (QAction* const action : onBill_) {
         action->setEnabled(hasBill);
     }
+    const ModelObject* const present = choice_->present();
+    for (QAction* const action : {cut_, copy_, rename_, remove_, showInPlan_}) {
+        action->setEnabled(present);
+    }
+    for (QAction* const action : ownBill_->actions()) {
+        action->setEnabled(present && BomDesk::isRoot(*present));
+    }
+    showInBill_->setEnabled(present && hasBill);
+    paste_->setEnabled(clipboard_->canPaste(choice_->present()));
     split_->setEnabled(area_->canSplit());
     join_->setEnabled(area_->isSplit());
 }

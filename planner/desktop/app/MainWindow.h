@@ -1,29 +1,32 @@
 #pragma once
 
 #include "planner/desktop/app/Options.h"
+#include "planner/desktop/plan/PlanDrop.h"
 
 #include <QMainWindow>
 
 #include <functional>
 #include <vector>
 
-namespace planner {
-class ModelObject;
-}
-
 namespace planner::desktop {
 
+class AnswerPane;
 class BomArea;
 class BomDesk;
 class BomSide;
 class Choice;
 class FileCommands;
+class Findings;
+class FlowPane;
 class InfoBar;
 class ItemPane;
+class PlanClipboard;
 class PlanCommands;
 class PlanPane;
 class PlanSession;
 class Progress;
+class PropertyPane;
+class Questions;
 class StartPage;
 class StatusLine;
 
@@ -40,6 +43,7 @@ public:
     BomArea& area() const { return *area_; }
     BomDesk& desk() const { return *desk_; }
     FileCommands& files() const { return *files_; }
+    Findings& findings() const { return *findings_; }
 
     /// Opens what the command line names. Gives what is wrong with it, a line each.
     QStringList open(const Options& options);
@@ -47,8 +51,8 @@ public:
     /// Shows a text above the bills until it is closed.
     void say(const QString& text);
 
-    /// Opens a bill on what is chosen, where that can be the root of one, else on the process.
-    void openBill(int mode);
+    /// Opens a bill, and keeps its mode as the usual one.
+    void openBill(ModelObject& root, int mode);
 
     /// Shows what is chosen in the plan; in the current bill.
     void revealInPlan();
@@ -68,8 +72,11 @@ private:
     void makeEditMenu();
     void makePlanMenu();
     void makeBillMenu();
+    void makeQuestionMenu();
     void makeViewMenu();
+    void makeGoToMenu(QMenu& menu);
     void makeAppearanceMenu(QMenu& menu);
+    void makeContextMenu();
     void makeToolBar();
     QAction* add(QMenu& menu, const QString& text, const QString& iconName, const QKeySequence& keys,
                  const std::function<void()>& run);
@@ -78,6 +85,9 @@ private:
     void editName(ModelObject& object);
     void rename();
     void remove();
+    void cutOrCopy(void (PlanClipboard::*take)(const std::vector<PlanDrag::Entry>& rows));
+    void paste();
+    void answer(const QString& text);
     void chooseFasteners();
     void followFile();
     void followEdits();
@@ -95,11 +105,28 @@ private:
     FileCommands* files_;
     PlanPane* plan_ = nullptr;
     ItemPane* items_ = nullptr;
-    QMenu* planMenu_ = nullptr;
+    FlowPane* flow_ = nullptr;
+    PropertyPane* properties_ = nullptr;
+    PlanClipboard* clipboard_;
+    Findings* findings_;
+    Questions* questions_;
+    AnswerPane* answers_ = nullptr;
+    QMenu* contextMenu_ = nullptr; ///< of what is chosen
+    QMenu* itemKinds_ = nullptr;
+    QMenu* stepKinds_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
+    QAction* cut_ = nullptr;
+    QAction* copy_ = nullptr;
+    QAction* paste_ = nullptr;
+    QAction* rename_ = nullptr;
+    QAction* remove_ = nullptr;
+    QAction* showInPlan_ = nullptr;
+    QAction* showInBill_ = nullptr;
+    QAction* export_ = nullptr;
     QAction* bill_ = nullptr; ///< in the mode that was last used
     QMenu* billModes_ = nullptr;
+    QMenu* ownBill_ = nullptr; ///< of what is chosen
     std::vector<QAction*> onBill_;
     QAction* split_ = nullptr;
     QAction* join_ = nullptr;

@@ -6,11 +6,17 @@
 #include "planner/desktop/bom/BomDesk.h"
 #include "planner/desktop/bom/BomSide.h"
 #include "planner/desktop/bom/StartPage.h"
+#include "planner/desktop/flow/FlowPane.h"
 #include "planner/desktop/icons/Icons.h"
+#include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/plan/ItemPane.h"
+#include "planner/desktop/plan/PlanClipboard.h"
 #include "planner/desktop/plan/PlanCommands.h"
 #include "planner/desktop/plan/PlanPane.h"
 #include "planner/desktop/plan/PlanSession.h"
+#include "planner/desktop/properties/PropertyPane.h"
+#include "planner/desktop/questions/AnswerPane.h"
+#include "planner/desktop/questions/Questions.h"
 #include "planner/desktop/settings/Preferences.h"
 #include "planner/desktop/toolkit/FramePane.h"
 
@@ -36,14 +42,17 @@ void MainWindow::makeMenus() {
     makeEditMenu();
     makePlanMenu();
     makeBillMenu();
+    makeQuestionMenu();
     makeViewMenu();
     makeToolBar();
-    plan_->setMenu(planMenu_);
-    items_->setMenu(planMenu_);
-    start_->offer(*commands_->addStep, "Begin with the steps of the work; each new one follows the last.");
-    start_->offer(*commands_->addItem[0], "What the chosen step brings in. Drag items from the list onto other steps.");
-    start_->offer(*bill_, "The bill of materials at the end of the plan. It follows every edit.");
-    start_->offer(*files_->open, "Go on with a plan that is there.");
+    makeContextMenu();
+    start_->offer(
+        *commands_->addStep,
+        "Begin with the steps of the work (Ctrl+Enter): type a name, and add the next one; it follows the last.");
+    start_->offer(*commands_->addItem[0],
+                  "What the chosen step brings in (Ctrl+I). Drag items from the list onto other steps.");
+    start_->offer(*bill_, "The bill of materials at the end of the plan (Ctrl+3). It follows every edit.");
+    start_->offer(*files_->open, "Go on with a plan that is there (Ctrl+O).");
 }
 
 void MainWindow::makeFileMenu() {
@@ -53,8 +62,7 @@ void MainWindow::makeFileMenu() {
     menu.addSeparator();
     menu.addActions({files_->save, files_->saveAs});
     menu.addSeparator();
-    onBill_.push_back(
-        add(menu, "&Export Bill…", "export", QKeySequence("Ctrl+E"), [this] { onSide(&BomSide::exportBill); }));
+    export_ = add(menu, "E&xport Bill…", "export", QKeySequence("Ctrl+E"), [this] { onSide(&BomSide::exportBill); });
     menu.addSeparator();
     add(menu, "&Quit", {}, QKeySequence::Quit, [this] { close(); });
 }
@@ -66,44 +74,79 @@ void MainWindow::makeEditMenu() {
     undo_->setIconText("Undo");
     redo_->setIconText("Redo");
     menu.addSeparator();
-    add(menu, "Re&name\tF2", "rename", {}, [this] { rename(); });
-    add(menu, "Re&move\tDel", "remove", {}, [this] { remove(); });
+    cut_ = add(menu, "Cu&t", "cut", QKeySequence::Cut, [this] { cutOrCopy(&PlanClipboard::cut); });
+    copy_ = add(menu, "&Copy", "copy", QKeySequence::Copy, [this] { cutOrCopy(&PlanClipboard::copy); });
+    paste_ = add(menu, "&Paste", "paste", QKeySequence::Paste, [this] { paste(); });
+    menu.addSeparator();
+    rename_ = add(menu, "Re&name", "rename", QKeySequence("F2"), [this] { rename(); });
+    remove_ = add(menu, "Remo&ve\tDel", "remove", {}, [this] { remove(); }); // a key of plan, items and flow alone
     menu.addSeparator();
     add(menu, "&Fasteners in Bills…", "settings", {}, [this] { chooseFasteners(); });
 }
 
 void MainWindow::makePlanMenu() {
-    planMenu_ = menuBar()->addMenu("&Plan");
-    planMenu_->addActions({commands_->addStep, commands_->addInside});
-    planMenu_->addSeparator();
+    QMenu& menu = *menuBar()->addMenu("&Plan");
+    menu.addActions({commands_->addStep, commands_->addInside});
+    menu.addSeparator();
+    itemKinds_ = new QMenu("Add Ite&m", this);
     for (QAction* const action : commands_->addItem) {
-        planMenu_->addAction(action);
+        menu.addAction(action);
+        itemKinds_->addAction(action);
     }
-    planMenu_->addSeparator();
-    planMenu_->addActions({commands_->addResource, commands_->addBehaviour});
-    planMenu_->addSeparator();
-    planMenu_->addAction(commands_->link);
-    QMenu& kinds = *planMenu_->addMenu("&Kind of Step");
+    menu.addSeparator();
+    menu.addActions({commands_->addResource, commands_->addBehaviour});
+    menu.addSeparator();
+    menu.addAction(commands_->link);
+    stepKinds_ = menu.addMenu("&Kind of Step");
     for (QAction* const action : commands_->setKind) {
-        kinds.addAction(action);
+        stepKinds_->addAction(action);
     }
-    planMenu_->addSeparator();
-    add(*planMenu_, "Rename\tF2", "rename", {}, [this] { rename(); });
-    add(*planMenu_, "Remove\tDel", "remove", {}, [this] { remove(); });
+    menu.addActions({commands_->moveUp, commands_->moveDown});
+}
+
+/// What can be done with the object under the mouse, wherever that is.
+void MainWindow::makeContextMenu() {
+    QMenu& menu = *(contextMenu_ = new QMenu(this));
+    menu.setObjectName("context-menu");
+    menu.addActions({commands_->addStep, commands_->addInside});
+    menu.addMenu(itemKinds_);
+    menu.addActions({commands_->addResource, commands_->addBehaviour});
+    menu.addSeparator();
+    menu.addAction(commands_->link);
+    menu.addMenu(stepKinds_);
+    menu.addSeparator();
+    menu.addActions({cut_, copy_, paste_, rename_, remove_});
+    menu.addSeparator();
+    menu.addActions({questions_->why, questions_->billAtStep});
+    menu.addSeparator();
+    menu.addMenu(ownBill_);
+    menu.addActions({showInPlan_, showInBill_});
+    plan_->setMenu(&menu);
+    items_->setMenu(&menu);
+    flow_->setMenu(&menu);
+    connect(desk_, &BomDesk::menuAsked, &menu, [&menu](QPoint place) { menu.popup(place); });
 }
 
 void MainWindow::makeBillMenu() {
     QMenu& menu = *menuBar()->addMenu("&Bill");
-    billModes_ = new QMenu("Open", this);
-    add(*billModes_, "&Bill", "bill", QKeySequence("Ctrl+1"), [this] { openBill(1); });
-    add(*billModes_, "&Items in Space", "space", QKeySequence("Ctrl+2"), [this] { openBill(2); });
-    add(*billModes_, "Bill &and Items", "bill-space", QKeySequence("Ctrl+3"), [this] { openBill(3); });
-    bill_ = new QAction(icon("bill-space"), "Open &Bill", this);
-    bill_->setToolTip("Open the bill of the chosen step or resource, else of the whole plan");
-    connect(bill_, &QAction::triggered, this, [this] { openBill(readBillMode()); });
-    planMenu_->addSeparator();
-    planMenu_->addActions(billModes_->actions());
+    billModes_ = new QMenu("Open Bill", this);
+    ownBill_ = new QMenu("Bill &of This", this);
+    constexpr std::array<const char*, 3> kTexts{"&Bill", "&Items in Space", "Bill &and Items"};
+    constexpr std::array<const char*, 3> kIcons{"bill", "space", "bill-space"};
+    for (int mode = 1; mode <= 3; ++mode) {
+        const auto at = static_cast<std::size_t>(mode - 1);
+        const QString number = QString::number(mode);
+        add(*billModes_, kTexts[at], kIcons[at], QKeySequence("Ctrl+" + number),
+            [this, mode] { openBill(BomDesk::usualRoot(session_->plan()), mode); });
+        add(*ownBill_, kTexts[at], kIcons[at], QKeySequence("Ctrl+Shift+" + number),
+            [this, mode] { openBill(*choice_->present(), mode); });
+    }
+    bill_ = new QAction(icon("bill-space"), "Open Bill", this);
+    bill_->setToolTip("Open the bill of the whole plan");
+    connect(bill_, &QAction::triggered, this,
+            [this] { openBill(BomDesk::usualRoot(session_->plan()), readBillMode()); });
     menu.addActions(billModes_->actions());
+    menu.addMenu(ownBill_);
     menu.addSeparator();
     onBill_ = {
         add(menu, "&Filter", "filter", QKeySequence("Ctrl+Shift+F"),
@@ -111,7 +154,8 @@ void MainWindow::makeBillMenu() {
         add(menu, "&Expand All", "expand", QKeySequence("Ctrl+Shift+E"), [this] { onSide(&BomSide::expandAll); }),
         add(menu, "&Collapse All", {}, QKeySequence("Ctrl+Shift+W"), [this] { onSide(&BomSide::collapseAll); }),
         add(menu, "Cop&y as Text", "copy", QKeySequence("Ctrl+Shift+C"), [this] { desk_->currentSide()->copy(); }),
-        onBill_.front()};
+        export_};
+    menu.addAction(export_);
     menu.addSeparator();
     split_ = add(menu, "&Side by Side", "split", QKeySequence("Ctrl+\\"), [this] {
         area_->split();
@@ -124,12 +168,17 @@ void MainWindow::makeBillMenu() {
     onBill_.push_back(add(menu, "C&lose", {}, QKeySequence::Close, [this] { area_->current()->close(); }));
 }
 
+void MainWindow::makeQuestionMenu() {
+    QMenu& menu = *menuBar()->addMenu("&Questions");
+    menu.addActions({questions_->why, questions_->billAtStep, questions_->check, questions_->compare});
+}
+
 void MainWindow::makeViewMenu() {
     QMenu& menu = *menuBar()->addMenu("&View");
-    add(menu, "Show in &Plan", "reveal", QKeySequence("F4"), [this] { revealInPlan(); });
-    onBill_.push_back(add(menu, "Show in &Bill", "reveal", QKeySequence("F5"), [this] { revealInBill(); }));
-    planMenu_->addSeparator();
-    planMenu_->addActions(menu.actions());
+    showInPlan_ = add(menu, "Sho&w in Plan", "reveal", QKeySequence("F4"), [this] { revealInPlan(); });
+    showInBill_ = add(menu, "S&how in Bill", "reveal", QKeySequence("F5"), [this] { revealInBill(); });
+    menu.addSeparator();
+    makeGoToMenu(*menu.addMenu("&Go To"));
     menu.addSeparator();
     for (const QDockWidget* const dock : findChildren<QDockWidget*>()) {
         menu.addAction(dock->toggleViewAction());
@@ -138,9 +187,23 @@ void MainWindow::makeViewMenu() {
     makeAppearanceMenu(*menu.addMenu("&Appearance"));
 }
 
+void MainWindow::makeGoToMenu(QMenu& menu) {
+    const auto goTo = [this](const char* dock, QWidget* field) {
+        findChild<QDockWidget*>(dock)->show();
+        findChild<QDockWidget*>(dock)->raise();
+        field->setFocus(Qt::ShortcutFocusReason);
+    };
+    add(menu, "&Plan", {}, QKeySequence("Alt+1"), [=, this] { goTo("plan", plan_); });
+    add(menu, "&Items", {}, QKeySequence("Alt+2"), [=, this] { goTo("items", items_); });
+    onBill_.push_back(add(menu, "&Bill", {}, QKeySequence("Alt+3"), [this] { area_->current()->takeKeyboard(); }));
+    add(menu, "&Flow", {}, QKeySequence("Alt+4"), [=, this] { goTo("flow", flow_); });
+    add(menu, "&Answers", {}, QKeySequence("Alt+6"), [=, this] { goTo("answer-pane", answers_); });
+    add(menu, "P&roperties", {}, QKeySequence("Alt+5"), [=, this] { goTo("properties", properties_); });
+}
+
 void MainWindow::makeAppearanceMenu(QMenu& menu) {
     auto* const group = new QActionGroup(this);
-    constexpr std::array<const char*, 3> kTexts{"As the &Desktop", "&Light", "&Dark"};
+    constexpr std::array<const char*, 3> kTexts{"&As the Desktop", "&Light", "&Dark"};
     for (std::size_t i = 0; i < kTexts.size(); ++i) {
         const auto appearance = static_cast<Appearance>(i);
         QAction* const action = group->addAction(menu.addAction(kTexts[i]));
@@ -167,9 +230,7 @@ void MainWindow::makeToolBar() {
     auto* const items = new QToolButton(&bar);
     items->setDefaultAction(commands_->addItem[0]);
     items->setPopupMode(QToolButton::MenuButtonPopup);
-    for (QAction* const action : commands_->addItem) {
-        items->addAction(action);
-    }
+    items->setMenu(itemKinds_);
     bar.addWidget(items);
     bar.addActions({commands_->addResource, commands_->link});
     bar.addSeparator();

@@ -12,7 +12,9 @@ void addOptions(CLI::App& app, Options& options) {
         ->check(CLI::Range(1, 3))
         ->type_name("N")
         ->capture_default_str();
-    app.add_option("--root", options.root, "Activity or resource of that window; the process by default")
+    app.add_option("--root", options.root,
+                   "Activity or resource of that window; by default the process, or the first resource where the "
+                   "process is empty")
         ->type_name("ID");
     app.add_option("--screenshot", options.screenshot, "Write a picture of the window to a file (PNG) and exit")
         ->type_name("FILE");

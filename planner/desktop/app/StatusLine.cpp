@@ -19,7 +19,9 @@ QString counted(std::size_t count, const QString& one, const QString& many) {
 
 StatusLine::StatusLine(PlanSession& session, QWidget* parent)
     : QStatusBar(parent), session_(session), counts_(new QLabel(this)), computed_(new QLabel(this)) {
+    constexpr int kApart = 24;
     computed_->setObjectName("computed");
+    computed_->setContentsMargins(0, 0, kApart, 0);
     counts_->setObjectName("counts");
     addPermanentWidget(computed_);
     addPermanentWidget(counts_);

@@ -77,6 +77,9 @@ BomSide::BomSide(VXMFabBomViewer& window, FramePane& pane, ModelObject& root, Ch
         filter_->clear();
         tree_->reveal(path);
     });
+    tree_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(tree_, &QWidget::customContextMenuRequested, this,
+            [this](QPoint place) { Q_EMIT menuAsked(tree_->viewport()->mapToGlobal(place)); });
     connect(tree_, &TreeView::picked, this, &BomSide::chooseRow);
     connect(tree_, &TreeView::refilled, this, &BomSide::followRefill);
     connect(&choice_, &Choice::changed, this, &BomSide::showChoice);

@@ -50,6 +50,7 @@ public:
 
 Q_SIGNALS:
     void said(const QString& text);
+    void menuAsked(QPoint place);
 
 private:
     void followRefill();

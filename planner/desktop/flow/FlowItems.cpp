@@ -38,7 +38,7 @@ QColor between(const QColor& from, const QColor& to, double part) {
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
 }
 
-QString tip(const FlowBox& box) {
+QString tip(const FlowBox& box, const QString& remark) {
     const ModelObject& object = *box.object.Get();
     QStringList lines{"<b>" + QString::fromStdString(object.name()).toHtmlEscaped() + "</b>"};
     if (object.hasOwnName()) {
@@ -46,6 +46,9 @@ QString tip(const FlowBox& box) {
     }
     if (!box.onWay) {
         lines << "Lies on no way to the end of the flow, and adds nothing to its bill.";
+    }
+    if (!remark.isEmpty()) {
+        lines << remark.toHtmlEscaped().replace('\n', "<br>");
     }
     if (box.linksElsewhere > 0) {
         lines << QString("Links to what isn't in this picture: %1").arg(box.linksElsewhere);
@@ -79,8 +82,9 @@ QPainterPath headOf(const QPainterPath& course, double unit) {
 
 } // namespace
 
-BoxItem::BoxItem(FlowBox box, int place, double unit) : box_(std::move(box)), place_(place), unit_(unit) {
-    setToolTip(tip(box_));
+BoxItem::BoxItem(FlowBox box, int place, double unit, const QString& remark)
+    : box_(std::move(box)), place_(place), unit_(unit), isMarked_(!remark.isEmpty()) {
+    setToolTip(tip(box_, remark));
     setFlag(ItemIsSelectable);
     setZValue(1);
 }
@@ -128,7 +132,7 @@ void BoxItem::paintText(QPainter& painter, const QColor& colour) const {
     const double icon = unit_ * 1.25;
     const QRectF inner = frame().adjusted(unit_ * 0.5, unit_ * 0.3, -unit_ * 0.5, -unit_ * 0.3);
     const QRectF iconRect(inner.left(), -icon / 2, icon, icon);
-    iconOf(object()).paint(&painter, iconRect.toRect());
+    (isMarked_ ? markedIconOf(object()) : iconOf(object())).paint(&painter, iconRect.toRect());
     const double left = iconRect.right() + unit_ * 0.4;
     const double width = inner.right() - left;
 

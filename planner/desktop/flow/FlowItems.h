@@ -1,7 +1,7 @@
 #pragma once
 
-#include "planner/desktop/flow/FlowGraph.h"
 #include "planner/desktop/flow/FlowLayout.h"
+#include "planner/flow/FlowGraph.h"
 
 #include <QGraphicsItem>
 
@@ -10,8 +10,8 @@ namespace planner::desktop {
 /// A step as a box with its icon and name. It is selected when the step is chosen.
 class BoxItem : public QGraphicsItem {
 public:
-    /// `unit` is the height of a line of text.
-    BoxItem(FlowBox box, int place, double unit);
+    /// `unit` is the height of a line of text. A remark on the step is told with it, and marks its icon.
+    BoxItem(FlowBox box, int place, double unit, const QString& remark);
 
     const FlowBox& box() const { return box_; }
     ModelObject& object() const { return *box_.object.Get(); }
@@ -30,6 +30,7 @@ private:
     FlowBox box_;
     int place_;
     double unit_;
+    bool isMarked_;
     bool isTarget_ = false;
 };
 

@@ -25,7 +25,7 @@ struct FlowLayout {
     std::vector<QPainterPath> links;
 };
 
-inline constexpr QSizeF kBoxSize{9, 3};
+inline constexpr QSizeF kBoxSize{11, 3};
 inline constexpr QSizeF kEndSize{1, 1};
 inline constexpr QSizeF kGap{3, 1}; ///< between neighbours
 

@@ -1,14 +1,18 @@
 #include "planner/desktop/flow/FlowPane.h"
 
+#include "planner/desktop/bom/BomDesk.h"
 #include "planner/desktop/flow/FlowView.h"
 #include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/plan/Choice.h"
+#include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanSession.h"
+#include "planner/desktop/questions/Findings.h"
 #include "planner/desktop/widgets/Note.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QMenu>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -31,17 +35,11 @@ QString pathText(const FlowObject& owner) {
     return text;
 }
 
-/// What is shown before anything is chosen: the process, or the first resource of a plan that has nothing else.
-FlowObject& firstOwner(const Plan& plan) {
-    const bool hasProcess = !plan.process()->children.empty() || plan.resources.empty();
-    return hasProcess ? static_cast<FlowObject&>(*plan.process()) : **plan.resources.begin();
-}
-
 } // namespace
 
-FlowPane::FlowPane(PlanSession& session, Choice& choice, QWidget* parent)
+FlowPane::FlowPane(PlanSession& session, Choice& choice, const Findings& findings, WalkedBy walkedBy, QWidget* parent)
     : QWidget(parent), session_(session), choice_(choice), path_(new QLabel), hint_(new QLabel),
-      stack_(new QStackedWidget), note_(new Note({})), view_(new FlowView) {
+      stack_(new QStackedWidget), note_(new Note({})), view_(new FlowView), walkedBy_(std::move(walkedBy)) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
@@ -51,15 +49,22 @@ FlowPane::FlowPane(PlanSession& session, Choice& choice, QWidget* parent)
     stack_->setMinimumHeight(kLines * fontMetrics().height());
     stack_->addWidget(note_);
     stack_->addWidget(view_);
+    setFocusProxy(view_);
+    view_->setRemarks([&findings](const ModelObject& step) { return findings.textOn(step); });
+    connect(&findings, &Findings::changed, this, &FlowPane::scheduleRefresh);
     refreshing_.setSingleShot(true);
     connect(&refreshing_, &QTimer::timeout, this, &FlowPane::refresh);
     connect(&session_, &PlanSession::aboutToReplace, this, &FlowPane::drop);
     connect(&session_, &PlanSession::replaced, this, &FlowPane::scheduleRefresh);
-    connect(&session_, &PlanSession::changed, this, &FlowPane::scheduleRefresh);
+    connect(&session_, &PlanSession::changed, this, [this] {
+        way_.reset();
+        scheduleRefresh();
+    });
     connect(&choice_, &Choice::changed, this, &FlowPane::followChoice);
     connect(view_, &FlowView::chosen, this, &FlowPane::choose);
     connect(view_, &FlowView::linkDrawn, this, [this](ModelObject* from, ModelObject* to) { link(*from, *to); });
     connect(view_, &FlowView::removalAsked, this, &FlowPane::removeLinks);
+    connect(view_, &FlowView::boxRemovalAsked, this, &FlowPane::removeChosen);
     connect(view_, &FlowView::opened, this, [this](ModelObject* object) { openBox(*object); });
     connect(view_, &FlowView::upAsked, this, &FlowPane::up);
     scheduleRefresh();
@@ -98,6 +103,7 @@ QWidget* FlowPane::makeHead() {
 /// The plan goes: nothing of it is kept.
 void FlowPane::drop() {
     owner_ = {};
+    way_.reset();
     isNewFlow_ = true;
     view_->show({}, true);
 }
@@ -118,10 +124,15 @@ void FlowPane::refresh() {
         return; // showEvent makes up for it
     }
     if (!owner_ || !owner_->standsInPlan()) {
-        owner_ = &firstOwner(session_.plan());
+        owner_ = &BomDesk::usualRoot(session_.plan());
+        way_.reset();
         isNewFlow_ = true;
     }
-    FlowGraph graph = readFlow(static_cast<FlowObject&>(*owner_.Get()), choice_.present(), kDrawn);
+    auto& owner = static_cast<FlowObject&>(*owner_.Get());
+    if (!way_) {
+        way_ = wayToEnd(owner, walkedBy_(owner));
+    }
+    FlowGraph graph = readFlow(owner, *way_, choice_.present(), kDrawn);
     const std::size_t shown = graph.boxes.size();
     const std::size_t total = graph.total;
     const QLocale locale;
@@ -131,8 +142,9 @@ void FlowPane::refresh() {
     view_->show(std::move(graph), std::exchange(isNewFlow_, false));
     tellHead();
     if (total == 0) {
-        showNote("No steps yet in \"" + QString::fromStdString(owner_->name()) +
-                 "\": add some, and link them in the order of their work.");
+        showNote("No steps in \"" + QString::fromStdString(owner_->name()) +
+                 "\" yet. Add Step (Ctrl+Enter) puts one behind the other; "
+                 "drag from box to box for further links.");
         return;
     }
     stack_->setCurrentWidget(view_);
@@ -169,6 +181,7 @@ void FlowPane::followChoice() {
 
 void FlowPane::open(FlowObject& owner) {
     owner_ = &owner;
+    way_.reset();
     isNewFlow_ = true;
     scheduleRefresh();
 }
@@ -205,6 +218,28 @@ void FlowPane::removeLinks(const std::vector<FlowArrow>& arrows) {
         };
         arrows.size() == 1 ? removeAll() : editor.group("Remove Links", removeAll);
     });
+}
+
+bool FlowPane::hasKeyboard() const {
+    return view_->hasFocus();
+}
+
+void FlowPane::removeChosen() {
+    std::vector<PlanDrag::Entry> rows;
+    for (const auto& object : choice_.objects()) {
+        if (isDrawn(*object.Get())) {
+            rows.push_back({PlanRow{object.Get()}});
+        }
+    }
+    if (!rows.empty()) {
+        removeRows(session_, rows);
+    }
+}
+
+void FlowPane::setMenu(QMenu* menu) {
+    view_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view_, &QWidget::customContextMenuRequested, menu,
+            [this, menu](QPoint place) { menu->popup(view_->mapToGlobal(place)); });
 }
 
 void FlowPane::openBox(ModelObject& object) {

@@ -1,19 +1,22 @@
 #pragma once
 
-#include "planner/desktop/flow/FlowGraph.h"
+#include "planner/flow/FlowGraph.h"
 
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
+class QMenu;
 class QStackedWidget;
 class QToolButton;
 
 namespace planner::desktop {
 
 class Choice;
+class Findings;
 class FlowView;
 class Note;
 class PlanSession;
@@ -28,10 +31,21 @@ class FlowPane : public QWidget {
     Q_OBJECT
 
 public:
-    FlowPane(PlanSession& session, Choice& choice, QWidget* parent = nullptr);
+    /// Gives the generator of an open bill on an object, null where there is none: it has walked the flow already.
+    using WalkedBy = std::function<VXMBomGenerator*(const ModelObject& root)>;
+
+    FlowPane(PlanSession& session, Choice& choice, const Findings& findings, WalkedBy walkedBy,
+             QWidget* parent = nullptr);
 
     /// Shows the flow of another activity or resource.
     void open(FlowObject& owner);
+
+    /// Whether the picture has the keyboard, and the steps chosen in it removed from the plan.
+    bool hasKeyboard() const;
+    void removeChosen();
+
+    /// The menu of a right click on a step.
+    void setMenu(QMenu* menu);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -64,7 +78,9 @@ private:
     Note* note_;
     FlowView* view_;
     QTimer refreshing_;
-    QORVar<ModelObject> owner_; // of the flow that is shown
+    WalkedBy walkedBy_;
+    std::optional<FlowWay> way_; // to the end of the flow that is shown, as the plan is now
+    QORVar<ModelObject> owner_;  // of the flow that is shown
     bool isNewFlow_ = true;
     bool isChoosing_ = false;
 };

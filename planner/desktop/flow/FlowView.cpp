@@ -11,7 +11,7 @@ namespace planner::desktop {
 
 namespace {
 
-constexpr double kReadable = 0.7; // smallest scale at which names are still read
+constexpr double kReadable = 0.85; // smallest scale at which names are still read
 constexpr double kSmallest = 0.02;
 constexpr double kLargest = 4;
 
@@ -65,7 +65,8 @@ void FlowView::build() {
     const double unit = QFontMetricsF(font()).height();
     const QTransform toScene = QTransform::fromScale(unit, unit);
     for (std::size_t i = 0; i < graph_.boxes.size(); ++i) {
-        auto* const box = new BoxItem(graph_.boxes[i], static_cast<int>(i), unit);
+        auto* const box = new BoxItem(graph_.boxes[i], static_cast<int>(i), unit,
+                                      remark_ ? remark_(*graph_.boxes[i].object.Get()) : QString());
         box->setPos(toScene.map(layout_.centres[i]));
         scene_.addItem(box);
         boxes_.push_back(box);

@@ -11,15 +11,19 @@
 namespace planner::desktop {
 
 /// The picture of a flow, with mouse and keyboard: a click chooses a step (with Ctrl further ones) or selects a link,
-/// dragging from box to box draws a link, Delete removes the selected ones, the wheel zooms, dragging the ground moves
-/// the picture. Arrow keys go from step to step (with Shift choosing further ones), Tab through all in the plan's
-/// order, Alt and an arrow through the links of a step; Enter opens a step, Backspace leads back. Changes nothing
-/// itself.
+/// dragging from box to box draws a link, Delete removes selected links, else the chosen steps, the wheel zooms,
+/// dragging the ground moves the picture. Arrow keys go from step to step (with Shift choosing further ones), Tab
+/// through all in the plan's order, Alt and an arrow through the links of a step; Enter opens a step, Backspace leads
+/// back. Changes nothing itself.
 class FlowView : public QGraphicsView {
     Q_OBJECT
 
 public:
     explicit FlowView(QWidget* parent = nullptr);
+
+    /// What is remarked on a step, empty for nothing.
+    using Remark = std::function<QString(const ModelObject& step)>;
+    void setRemarks(Remark remark) { remark_ = std::move(remark); }
 
     /// Shows a graph. The arrangement is made anew only when boxes or links are others; a new flow is fitted in.
     void show(FlowGraph graph, bool isNewFlow);
@@ -40,7 +44,8 @@ public:
 Q_SIGNALS:
     void chosen(const std::vector<planner::ModelObject*>& objects);
     void linkDrawn(planner::ModelObject* from, planner::ModelObject* to);
-    void removalAsked(const std::vector<planner::desktop::FlowArrow>& arrows);
+    void removalAsked(const std::vector<planner::FlowArrow>& arrows);
+    void boxRemovalAsked();
     void opened(planner::ModelObject* object);
     void upAsked();
 
@@ -72,6 +77,7 @@ private:
 
     QGraphicsScene scene_;
     FlowGraph graph_;
+    Remark remark_;
     FlowShape shape_;
     FlowLayout layout_;
     std::vector<BoxItem*> boxes_;

@@ -45,8 +45,16 @@ double farness(QPointF there, QPointF direction) {
 } // namespace
 
 void FlowView::mousePressEvent(QMouseEvent* event) {
+    endDrawing(); // another button, while a link is drawn
     pressed_ = event->button() == Qt::LeftButton ? boxAt(event->pos()) : nullptr;
     pressPlace_ = event->pos();
+    if (event->button() == Qt::RightButton) { // for the menu that comes up
+        BoxItem* const box = boxAt(event->pos());
+        if (box && !box->isSelected()) {
+            choose(*box, false);
+        }
+        return;
+    }
     if (pressed_) {
         setFocus(Qt::MouseFocusReason);
         return;
@@ -168,10 +176,12 @@ bool FlowView::runKey(int key, Qt::KeyboardModifiers modifiers) {
         for (const ArrowItem* arrow : selectedArrows()) {
             arrows.push_back(arrow->arrow());
         }
-        if (!arrows.empty()) {
+        if (arrows.empty()) {
+            Q_EMIT boxRemovalAsked();
+        } else {
             Q_EMIT removalAsked(arrows);
         }
-        return !arrows.empty();
+        return true;
     }
     case Qt::Key_Return:
     case Qt::Key_Enter:

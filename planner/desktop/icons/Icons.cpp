@@ -5,6 +5,8 @@
 #include "planner/model/Activity.h"
 #include "planner/model/Item.h"
 
+#include "QORPlatform/toolkit/QORIcons.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QHash>
@@ -12,7 +14,7 @@
 #include <QPainter>
 #include <QPalette>
 
-/// The resources of a static library come with the first call for them; outside of any namespace, as the macro wants.
+/// The resources of a static library come when they are called for; outside of any namespace, as the macro wants.
 static void bringResources() {
     Q_INIT_RESOURCE(icons);
 }
@@ -50,10 +52,43 @@ private:
     Picture picture_;
 };
 
-/// What the platform's tree calls its icons, and ours for it.
-QString fileOf(const QString& name) {
-    return ":/icons/" + (name == "I_PPRProduct" ? QString("product") : name) + ".svg";
-}
+/// An icon with a mark in its lower right corner.
+class MarkedEngine final : public QIconEngine {
+public:
+    explicit MarkedEngine(QIcon base) : base_(std::move(base)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        constexpr double kShare = 0.62;
+        const QSize size = (QSizeF(rect.size()) * kShare).toSize();
+        base_.paint(painter, rect, Qt::AlignCenter, mode, state);
+        icon("finding").paint(painter,
+                              QRect(rect.bottomRight() - QPoint(size.width(), size.height()) + QPoint(2, 2), size));
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine* clone() const override { return new MarkedEngine(*this); }
+
+private:
+    QIcon base_;
+};
+
+/// The program's own drawings; "I_PPRProduct" is what the rows of bills ask for.
+class Drawings final : public QORIconResource {
+public:
+    Drawings() { bringResources(); }
+
+    std::string GetDrawing(const std::string& iName) override {
+        QFile file(":/icons/" + QString::fromStdString(iName == "I_PPRProduct" ? "product" : iName) + ".svg");
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    }
+};
 
 QString nameOf(const ModelObject& object) {
     switch (object.sort()) {
@@ -73,20 +108,34 @@ QString nameOf(const ModelObject& object) {
 
 } // namespace
 
+void bringIcons() {
+    static Drawings drawings;
+    QORIconResource::SetCurrent(&drawings);
+}
+
 QIcon icon(const QString& name) {
     static QHash<QString, QIcon> icons;
     const auto known = icons.constFind(name);
     if (known != icons.constEnd()) {
         return *known;
     }
-    bringResources();
-    QFile file(fileOf(name));
-    const QIcon made = file.open(QIODevice::ReadOnly) ? QIcon(new Engine(Picture(file.readAll()))) : QIcon();
+    bringIcons();
+    const std::string drawing = QORIconResource::GetCurrent()->GetDrawing(name.toStdString());
+    const QIcon made = drawing.empty() ? QIcon() : QIcon(new Engine(Picture(QByteArray::fromStdString(drawing))));
     return *icons.insert(name, made);
 }
 
 QIcon iconOf(const ModelObject& object) {
     return icon(nameOf(object));
+}
+
+QIcon markedIconOf(const ModelObject& object) {
+    static QHash<QString, QIcon> icons;
+    QIcon& made = icons[nameOf(object)];
+    if (made.isNull()) {
+        made = QIcon(new MarkedEngine(iconOf(object)));
+    }
+    return made;
 }
 
 } // namespace planner::desktop

@@ -4,15 +4,17 @@
 #include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanSession.h"
 #include "planner/desktop/plan/RowChanges.h"
+#include "planner/desktop/questions/Findings.h"
 
 #include <algorithm>
 #include <memory>
 
 namespace planner::desktop {
 
-ItemListModel::ItemListModel(PlanSession& session, QObject* parent)
-    : QAbstractListModel(parent), session_(session), rows_(wanted()) {
+ItemListModel::ItemListModel(PlanSession& session, const Findings& findings, QObject* parent)
+    : QAbstractListModel(parent), session_(session), findings_(findings), rows_(wanted()) {
     connect(&session_, &PlanSession::changed, this, &ItemListModel::refresh);
+    connect(&findings_, &Findings::changed, this, &ItemListModel::refresh);
     connect(&session_, &PlanSession::aboutToReplace, this, &ItemListModel::clear);
     connect(&session_, &PlanSession::replaced, this, &ItemListModel::refresh);
 }
@@ -81,9 +83,9 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return QString::fromStdString(item.name());
     case Qt::DecorationRole:
-        return iconOf(item);
+        return findings_.marks(item) ? markedIconOf(item) : iconOf(item);
     case Qt::ToolTipRole:
-        return QString::fromStdString(item.id());
+        return QString("%1\n%2").arg(QString::fromStdString(item.id()), findings_.textOn(item)).trimmed();
     default:
         return {};
     }

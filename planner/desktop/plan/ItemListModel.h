@@ -6,6 +6,7 @@
 
 namespace planner::desktop {
 
+class Findings;
 class PlanSession;
 
 /// All items of the plan in their order.
@@ -13,7 +14,7 @@ class ItemListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    explicit ItemListModel(PlanSession& session, QObject* parent = nullptr);
+    ItemListModel(PlanSession& session, const Findings& findings, QObject* parent = nullptr);
 
     ModelObject* itemAt(const QModelIndex& index) const;
 
@@ -33,6 +34,7 @@ private:
     std::vector<PlanRow> wanted() const;
 
     PlanSession& session_;
+    const Findings& findings_;
     std::vector<PlanRow> rows_;
 };
 

@@ -3,7 +3,6 @@
 #include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/plan/ItemListModel.h"
-#include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanSession.h"
 
 #include <QKeyEvent>
@@ -16,10 +15,9 @@
 
 namespace planner::desktop {
 
-ItemPane::ItemPane(PlanSession& session, Choice& choice, QWidget* parent)
-    : QWidget(parent), session_(session), choice_(choice), model_(new ItemListModel(session, this)),
+ItemPane::ItemPane(PlanSession& session, Choice& choice, const Findings& findings, QWidget* parent)
+    : QWidget(parent), session_(session), choice_(choice), model_(new ItemListModel(session, findings, this)),
       found_(new QSortFilterProxyModel(this)), search_(new QLineEdit(this)), list_(new QListView(this)) {
-    search_->setPlaceholderText("Search items");
     search_->setClearButtonEnabled(true);
     search_->addAction(icon("filter"), QLineEdit::LeadingPosition);
     found_->setSourceModel(model_);
@@ -33,6 +31,7 @@ ItemPane::ItemPane(PlanSession& session, Choice& choice, QWidget* parent)
     list_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     list_->setDragEnabled(true);
     list_->installEventFilter(this);
+    setFocusProxy(list_);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -41,6 +40,15 @@ ItemPane::ItemPane(PlanSession& session, Choice& choice, QWidget* parent)
     connect(search_, &QLineEdit::textChanged, found_, &QSortFilterProxyModel::setFilterFixedString);
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ItemPane::chooseSelected);
     connect(&choice_, &Choice::changed, this, &ItemPane::showChoice);
+    for (const auto rowsChange : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(model_, rowsChange, this, &ItemPane::tellWhetherEmpty);
+    }
+    connect(model_, &QAbstractItemModel::modelReset, this, &ItemPane::tellWhetherEmpty);
+    tellWhetherEmpty();
+}
+
+void ItemPane::tellWhetherEmpty() {
+    search_->setPlaceholderText(model_->rowCount() > 0 ? "Search items" : "No items yet: Add Product (Ctrl+I)");
 }
 
 bool ItemPane::hasKeyboard() const {
@@ -102,11 +110,16 @@ void ItemPane::editName(ModelObject& item) {
     }
 }
 
-void ItemPane::removeSelected() {
+std::vector<PlanDrag::Entry> ItemPane::selectedRows() const {
     std::vector<PlanDrag::Entry> rows;
     for (ModelObject* const item : selected()) {
         rows.push_back({PlanRow{item}});
     }
+    return rows;
+}
+
+void ItemPane::removeSelected() {
+    const std::vector<PlanDrag::Entry> rows = selectedRows();
     if (!rows.empty()) {
         removeRows(session_, rows);
     }

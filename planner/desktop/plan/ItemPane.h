@@ -1,5 +1,7 @@
 #pragma once
 
+#include "planner/desktop/plan/PlanDrop.h"
+
 #include <QWidget>
 
 class QLineEdit;
@@ -7,22 +9,18 @@ class QListView;
 class QMenu;
 class QSortFilterProxyModel;
 
-namespace planner {
-class ModelObject;
-}
-
 namespace planner::desktop {
 
 class Choice;
+class Findings;
 class ItemListModel;
-class PlanSession;
 
 /// All items of the plan, with a search field. Items are dragged from here onto steps.
 class ItemPane : public QWidget {
     Q_OBJECT
 
 public:
-    ItemPane(PlanSession& session, Choice& choice, QWidget* parent = nullptr);
+    ItemPane(PlanSession& session, Choice& choice, const Findings& findings, QWidget* parent = nullptr);
 
     /// Whether the list has the keyboard.
     bool hasKeyboard() const;
@@ -31,7 +29,8 @@ public:
     bool reveal(ModelObject& item);
     void editName(ModelObject& item);
 
-    /// Removes the selected items from the plan.
+    /// The selected items as rows, and removed from the plan.
+    std::vector<PlanDrag::Entry> selectedRows() const;
     void removeSelected();
 
     void setMenu(QMenu* menu);
@@ -43,6 +42,7 @@ private:
     std::vector<ModelObject*> selected() const;
     void chooseSelected();
     void showChoice();
+    void tellWhetherEmpty();
 
     PlanSession& session_;
     Choice& choice_;

@@ -17,6 +17,9 @@ namespace {
 constexpr std::array<const char*, kItemKinds.size()> kItemTexts{"Add &Product", "Add &Assembly", "Add &Fastener",
                                                                 "Add &Tool or Other Item"};
 
+constexpr std::array<const char*, kActivityKinds.size()> kKindTexts{"&Activity", "&Loading Activity", "&Station",
+                                                                    "&Grouping", "L&ogical Node"};
+
 Behaviour* behaviourOf(ModelObject* object) {
     return object && object->sort() == Sort::Resource ? static_cast<Resource*>(object)->behaviour() : nullptr;
 }
@@ -31,6 +34,29 @@ Relation firstRelation(const ModelObject& owner, ItemKind kind) {
         return Relation::Assigned;
     }
     return kind == ItemKind::Fastener ? Relation::Items : Relation::FirstAssigned;
+}
+
+/// Calls visit(list) with the list in which an activity or a resource stands; for anything else it isn't called.
+template <class Visit>
+void visitSiblings(Plan& plan, ModelObject* object, Visit visit) {
+    if (isInnerActivity(object)) {
+        visit(activitiesIn(*static_cast<Activity*>(object)->container())->entries());
+    } else if (object && object->sort() == Sort::Resource) {
+        auto* const parent = static_cast<Resource*>(static_cast<Resource*>(object)->container());
+        parent ? visit(parent->children.entries()) : visit(plan.resources.entries());
+    }
+}
+
+/// The position that lies so far from that of an object among its siblings; none outside of them.
+std::optional<std::size_t> positionFrom(Plan& plan, ModelObject* object, std::ptrdiff_t by) {
+    std::optional<std::size_t> position;
+    visitSiblings(plan, object, [&](const auto& siblings) {
+        const auto at = std::find(siblings.begin(), siblings.end(), object) - siblings.begin() + by;
+        if (at >= 0 && at < static_cast<std::ptrdiff_t>(siblings.size())) {
+            position = static_cast<std::size_t>(at);
+        }
+    });
+    return position;
 }
 
 /// What stands behind an activity in its container; null at the end.
@@ -57,6 +83,8 @@ PlanCommands::PlanCommands(PlanSession& session, Choice& choice, QObject* parent
       addInside(make("Add Step &Inside", "grouping", QKeySequence("Ctrl+Shift+Return"), &PlanCommands::runAddInside)),
       addResource(make("Add &Resource", "add-resource", QKeySequence("Ctrl+Shift+R"), &PlanCommands::runAddResource)),
       addBehaviour(make("Add &Behaviour", "behaviour", {}, &PlanCommands::runAddBehaviour)),
+      moveUp(make("Move &Up", {}, QKeySequence("Ctrl+Shift+Up"), &PlanCommands::runMoveUp)),
+      moveDown(make("Move &Down", {}, QKeySequence("Ctrl+Shift+Down"), &PlanCommands::runMoveDown)),
       link(make("&Link in Order", "link", QKeySequence("Ctrl+L"), &PlanCommands::runLink)), addItem(), setKind(),
       session_(session), choice_(choice) {
     for (std::size_t kind = 0; kind < kItemKinds.size(); ++kind) {
@@ -64,8 +92,7 @@ PlanCommands::PlanCommands(PlanSession& session, Choice& choice, QObject* parent
         connect(addItem[kind], &QAction::triggered, this, [this, kind] { runAddItem(static_cast<ItemKind>(kind)); });
     }
     for (std::size_t kind = 0; kind < kActivityKinds.size(); ++kind) {
-        const QString word = QString::fromUtf8(kActivityKinds[kind].data());
-        setKind[kind] = new QAction(icon(word), word, this);
+        setKind[kind] = new QAction(icon(QString::fromUtf8(kActivityKinds[kind].data())), kKindTexts[kind], this);
         connect(setKind[kind], &QAction::triggered, this,
                 [this, kind] { runSetKind(static_cast<ActivityKind>(kind)); });
     }
@@ -89,6 +116,8 @@ void PlanCommands::enable() {
     ModelObject* const present = choice_.present();
     addInside->setEnabled(present && (activitiesIn(*present) || behaviourOf(present)));
     addBehaviour->setEnabled(present && present->sort() == Sort::Resource && !behaviourOf(present));
+    moveUp->setEnabled(positionFrom(session_.plan(), present, -1).has_value());
+    moveDown->setEnabled(positionFrom(session_.plan(), present, 1).has_value());
     link->setEnabled(choice_.objects().size() > 1);
     for (QAction* const action : setKind) {
         action->setEnabled(present && present->sort() == Sort::Activity);
@@ -163,6 +192,23 @@ void PlanCommands::runAddBehaviour() {
     if (done) {
         Q_EMIT added(made, nullptr);
     }
+}
+
+void PlanCommands::move(std::ptrdiff_t by) {
+    ModelObject* const present = choice_.present();
+    const auto position = positionFrom(session_.plan(), present, by);
+    if (!position) {
+        return;
+    }
+    session_.perform([&](PlanEditor& editor) {
+        if (present->sort() == Sort::Activity) {
+            auto& activity = static_cast<Activity&>(*present);
+            editor.moveActivity(activity, static_cast<FlowObject&>(*activity.container()), *position);
+        } else {
+            auto& resource = static_cast<Resource&>(*present);
+            editor.moveResource(resource, static_cast<Resource*>(resource.container()), *position);
+        }
+    });
 }
 
 void PlanCommands::runLink() {

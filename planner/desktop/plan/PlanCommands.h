@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <array>
+#include <cstddef>
 
 class QAction;
 class QMenu;
@@ -32,6 +33,8 @@ public:
     QAction* addInside;    ///< a step in the chosen one
     QAction* addResource;  ///< in the chosen resource, or at the top
     QAction* addBehaviour; ///< to the chosen resource
+    QAction* moveUp;       ///< the chosen activity or resource in front of the one before it
+    QAction* moveDown;     ///< behind the next one
     QAction* link;         ///< what is chosen, each with the next in the order of choosing
     std::array<QAction*, kItemKinds.size()> addItem;     ///< to the plan, and to the chosen step
     std::array<QAction*, kActivityKinds.size()> setKind; ///< of the chosen activities
@@ -47,6 +50,9 @@ private:
     void runAddInside();
     void runAddResource();
     void runAddBehaviour();
+    void runMoveUp() { move(-1); }
+    void runMoveDown() { move(1); }
+    void move(std::ptrdiff_t by);
     void runLink();
     void runAddItem(ItemKind kind);
     void runSetKind(ActivityKind kind);

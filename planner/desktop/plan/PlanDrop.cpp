@@ -185,8 +185,7 @@ void removeObject(PlanEditor& editor, ModelObject& object) {
 } // namespace
 
 void removeRows(PlanSession& session, const std::vector<PlanDrag::Entry>& rows) {
-    PlanDrag all;
-    std::for_each(rows.begin(), rows.end(), [&](const auto& row) { all.add(row); });
+    const PlanDrag all(rows);
     session.perform([&](PlanEditor& editor) {
         editor.group("Remove " + called(all.objects()), [&] {
             for (const auto& entry : fromTheBack(rows)) {

@@ -4,6 +4,7 @@
 
 #include <QMimeData>
 
+#include <utility>
 #include <vector>
 
 namespace planner::desktop {
@@ -20,6 +21,8 @@ public:
         ModelObject* owner = nullptr; ///< of the list that names an item, null when it comes from the plan's list
         std::size_t position = 0;     ///< in that list
     };
+
+    explicit PlanDrag(std::vector<Entry> entries = {}) : entries_(std::move(entries)) {}
 
     void add(const Entry& entry) { entries_.push_back(entry); }
     const std::vector<Entry>& entries() const { return entries_; }

@@ -2,7 +2,6 @@
 
 #include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/plan/Choice.h"
-#include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanSession.h"
 
 #include <QContextMenuEvent>
@@ -14,8 +13,8 @@
 
 namespace planner::desktop {
 
-PlanPane::PlanPane(PlanSession& session, Choice& choice, QWidget* parent)
-    : QTreeView(parent), session_(session), choice_(choice), model_(new PlanTreeModel(session, this)) {
+PlanPane::PlanPane(PlanSession& session, Choice& choice, const Findings& findings, QWidget* parent)
+    : QTreeView(parent), session_(session), choice_(choice), model_(new PlanTreeModel(session, findings, this)) {
     setObjectName("plan-tree");
     setAccessibleName("Plan");
     setModel(model_);
@@ -30,7 +29,10 @@ PlanPane::PlanPane(PlanSession& session, Choice& choice, QWidget* parent)
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PlanTreeModel::Name, QHeaderView::Stretch);
     header()->setSectionResizeMode(PlanTreeModel::What, QHeaderView::ResizeToContents);
-    connect(model_, &PlanTreeModel::relationWanted, this, &PlanPane::askRelation);
+    connect(model_, &PlanTreeModel::relationWanted, this,
+            [this](ModelObject* owner, const std::vector<ModelObject*>& items) {
+                askRelation(owner, items, QCursor::pos());
+            });
     connect(&choice_, &Choice::changed, this, &PlanPane::showChoice);
     connect(&session_, &PlanSession::replaced, this, &PlanPane::openProcess, Qt::QueuedConnection);
     openProcess();
@@ -107,12 +109,23 @@ void PlanPane::editName(ModelObject& object) {
     }
 }
 
-void PlanPane::removeSelected() {
+void PlanPane::editCurrent() {
+    if (model_->flags(currentIndex()) & Qt::ItemIsEditable) {
+        edit(currentIndex());
+    }
+}
+
+std::vector<PlanDrag::Entry> PlanPane::selectedRows() const {
     std::vector<PlanDrag::Entry> rows;
     for (const QModelIndex& index : selectionModel()->selectedRows()) {
         const PlanRow row = model_->rowAt(index);
         rows.push_back({row, model_->rowAt(index.parent()).object, row.relation ? model_->listPosition(index) : 0});
     }
+    return rows;
+}
+
+void PlanPane::removeSelected() {
+    const std::vector<PlanDrag::Entry> rows = selectedRows();
     if (!rows.empty()) {
         removeRows(session_, rows);
     }
@@ -128,11 +141,17 @@ void PlanPane::keyPressEvent(QKeyEvent* event) {
 
 void PlanPane::contextMenuEvent(QContextMenuEvent* event) {
     if (menu_) {
-        menu_->popup(event->globalPos());
+        menu_->popup(event->reason() == QContextMenuEvent::Keyboard ? menuPlace() : event->globalPos());
     }
 }
 
-void PlanPane::askRelation(ModelObject* owner, const std::vector<ModelObject*>& items) {
+QPoint PlanPane::menuPlace() const {
+    const QRect row = visualRect(currentIndex());
+    const QPoint place = row.isEmpty() ? QPoint() : QPoint(row.left() + row.height(), row.bottom());
+    return viewport()->mapToGlobal(place);
+}
+
+void PlanPane::askRelation(ModelObject* owner, const std::vector<ModelObject*>& items, QPoint place) {
     const std::vector<Relation> relations = relationsFor(*owner, items);
     if (relations.size() == 1) {
         putItems(session_, *owner, relations.front(), items);
@@ -150,7 +169,7 @@ void PlanPane::askRelation(ModelObject* owner, const std::vector<ModelObject*>& 
     }
     // Not from inside the drag, which has an event loop of its own.
     QMetaObject::invokeMethod(
-        menu, [menu] { menu->popup(QCursor::pos()); }, Qt::QueuedConnection);
+        menu, [menu, place] { menu->popup(place); }, Qt::QueuedConnection);
 }
 
 } // namespace planner::desktop

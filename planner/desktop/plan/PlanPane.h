@@ -1,5 +1,6 @@
 #pragma once
 
+#include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanTreeModel.h"
 
 #include <QTreeView>
@@ -9,13 +10,14 @@ class QMenu;
 namespace planner::desktop {
 
 class Choice;
+class Findings;
 
 /// The plan as a tree that a person works in: choosing, naming, dragging, removing.
 class PlanPane : public QTreeView {
     Q_OBJECT
 
 public:
-    PlanPane(PlanSession& session, Choice& choice, QWidget* parent = nullptr);
+    PlanPane(PlanSession& session, Choice& choice, const Findings& findings, QWidget* parent = nullptr);
 
     /// The menu of a right click.
     void setMenu(QMenu* menu) { menu_ = menu; }
@@ -30,8 +32,19 @@ public:
     /// Lets the name of a revealed object be typed.
     void editName(ModelObject& object);
 
-    /// Removes what the selected rows stand for.
+    /// Lets the name of the present row be typed, where it has one.
+    void editCurrent();
+
+    /// The selected rows, and their objects removed.
+    std::vector<PlanDrag::Entry> selectedRows() const;
     void removeSelected();
+
+    /// Asks in a menu at a place on the screen in which relation items come to an object, and puts them there; where
+    /// there is only one, without asking.
+    void askRelation(ModelObject* owner, const std::vector<ModelObject*>& items, QPoint place);
+
+    /// Where a menu for the present row comes up on the screen.
+    QPoint menuPlace() const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -40,7 +53,6 @@ protected:
 
 private:
     void showChoice();
-    void askRelation(ModelObject* owner, const std::vector<ModelObject*>& items);
     void openProcess();
 
     PlanSession& session_;

@@ -47,7 +47,7 @@ bool hasRowsBelow(ModelObject& object) {
 
 QString relationName(Relation relation) {
     constexpr std::array<const char*, kRelations.size()> kNames{"first assigned", "assigned", "removed", "listed",
-                                                                "output",         "child",    "held"};
+                                                                "output",         "child",    "held",    "joined"};
     return kNames[static_cast<std::size_t>(relation)];
 }
 

@@ -4,6 +4,7 @@
 #include "planner/desktop/plan/PlanDrop.h"
 #include "planner/desktop/plan/PlanSession.h"
 #include "planner/desktop/plan/RowChanges.h"
+#include "planner/desktop/questions/Findings.h"
 
 #include "planner/model/Contents.h"
 
@@ -23,10 +24,11 @@ struct PlanTreeModel::Node {
     std::vector<std::unique_ptr<Node>> below = {};
 };
 
-PlanTreeModel::PlanTreeModel(PlanSession& session, QObject* parent)
-    : QAbstractItemModel(parent), session_(session), top_(std::make_unique<Node>()) {
+PlanTreeModel::PlanTreeModel(PlanSession& session, const Findings& findings, QObject* parent)
+    : QAbstractItemModel(parent), session_(session), findings_(findings), top_(std::make_unique<Node>()) {
     connect(&session_, &PlanSession::changed, this, &PlanTreeModel::refresh);
     connect(&session_, &PlanSession::replaced, this, &PlanTreeModel::rebuild);
+    connect(&findings_, &Findings::changed, this, &PlanTreeModel::refresh);
     connect(&session_, &PlanSession::aboutToReplace, this, [this] {
         beginResetModel();
         made_.clear();
@@ -292,13 +294,15 @@ QVariant PlanTreeModel::data(const QModelIndex& index, int role) const {
         return nameOf(*row.object);
     case Qt::DecorationRole:
         if (index.column() == Name) {
-            return iconOf(*row.object);
+            return findings_.marks(*row.object) ? markedIconOf(*row.object) : iconOf(*row.object);
         }
         return row.relation ? icon(QString::fromUtf8(relationText(*row.relation).data())) : QIcon();
     case Qt::ForegroundRole:
         return index.column() == What ? QVariant(QPalette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::ToolTipRole:
-        return QString("%1\n%2").arg(nameOf(*row.object), QString::fromStdString(row.object->id()));
+        return QString("%1\n%2\n%3")
+            .arg(nameOf(*row.object), QString::fromStdString(row.object->id()), findings_.textOn(*row.object))
+            .trimmed();
     default:
         return {};
     }

@@ -9,6 +9,7 @@
 
 namespace planner::desktop {
 
+class Findings;
 class PlanSession;
 struct DropPlace;
 
@@ -20,7 +21,7 @@ class PlanTreeModel : public QAbstractItemModel {
 public:
     enum Column { Name, What, ColumnCount };
 
-    explicit PlanTreeModel(PlanSession& session, QObject* parent = nullptr);
+    PlanTreeModel(PlanSession& session, const Findings& findings, QObject* parent = nullptr);
     ~PlanTreeModel() override;
 
     /// The row behind an index, without an object for an invalid one.
@@ -75,6 +76,7 @@ private:
     DropPlace placeAt(int row, const QModelIndex& parent) const;
 
     PlanSession& session_;
+    const Findings& findings_;
     std::unique_ptr<Node> top_;
     std::unordered_multimap<const ModelObject*, Node*> made_;
 };

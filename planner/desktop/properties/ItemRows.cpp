@@ -164,10 +164,14 @@ private:
         form_.rows.addRow(labels_[index], sizes_[index]);
         QObject::connect(sizes_[index], &QDoubleSpinBox::valueChanged, sizes_[index],
                          [&item = item_, &session = session_, index, box = sizes_[index]](double value) {
-                             Shape shape = *item.geometry().shape;
+                             const auto& now = item.geometry().shape;
+                             if (!now || index >= now->sizes.size()) {
+                                 return;
+                             }
+                             Shape shape = *now;
                              shape.sizes[index] = value;
                              if (!session.perform([&](PlanEditor& editor) { editor.setShape(item, shape); })) {
-                                 setQuietly(*box, item.geometry().shape->sizes[index]);
+                                 setQuietly(*box, now->sizes[index]);
                              }
                          });
     }
@@ -178,11 +182,16 @@ private:
         file_ = new QLineEdit(parent);
         partLabel_ = new QLabel("Part", parent);
         part_ = new QLineEdit(parent);
+        part_->setObjectName("shape-part");
         part_->setPlaceholderText("all of it");
         form_.rows.addRow(fileLabel_, file_);
         form_.rows.addRow(partLabel_, part_);
         const auto write = [&item = item_, &session = session_, file = file_, part = part_] {
-            Shape shape = *item.geometry().shape;
+            const auto& now = item.geometry().shape;
+            if (!now || now->form != Shape::Form::Step) { // which hides the field, and that ends typing in it
+                return;
+            }
+            Shape shape = *now;
             const std::string partText = part->text().toStdString();
             if (shape.file == file->text().toStdString() && shape.part.value_or("") == partText) {
                 return;
@@ -219,7 +228,8 @@ void addPlaceRow(Form& form, Item& item, const QString& label, std::size_t first
         boxes[axis]->setButtonSymbols(QAbstractSpinBox::NoButtons);
         boxes[axis]->setDecimals(1);
         boxes[axis]->setToolTip(QString("%1, in %2").arg(QStringView(u"xyz")[static_cast<int>(axis)]).arg(unit));
-        boxes[axis]->setMinimumWidth(0);
+        boxes[axis]->setMinimumWidth(boxes[axis]->fontMetrics().horizontalAdvance("-99999.9"));
+        boxes[axis]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); // the columns of both rows agree
         line->addWidget(boxes[axis]);
         QObject::connect(boxes[axis], &QDoubleSpinBox::valueChanged, boxes[axis],
                          [&item, &session = form.session, at = first + axis](double value) {

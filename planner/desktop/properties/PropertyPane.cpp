@@ -5,6 +5,7 @@
 #include "planner/desktop/widgets/Note.h"
 
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 namespace planner::desktop {
 
@@ -35,7 +36,10 @@ void PropertyPane::rebuild() {
         return;
     }
     auto* const page = new QWidget;
-    auto* const rows = new QFormLayout(page);
+    auto* const rows = new QFormLayout;
+    auto* const column = new QVBoxLayout(page);
+    column->addLayout(rows);
+    column->addStretch(1);
     rows->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
     Form form{session_, choice_, *rows, readers_};

@@ -1,5 +1,6 @@
 #include "planner/desktop/toolkit/DesktopToolkit.h"
 
+#include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/toolkit/FramePane.h"
 #include "planner/desktop/toolkit/TreePeer.h"
 #include "planner/desktop/view3d/IdlePeer.h"
@@ -71,6 +72,7 @@ FramePane* paneAround(const QORDialog& dialog) {
 
 DesktopToolkit::DesktopToolkit(Place place) : place_(std::move(place)) {
     QORSetToolkit(this);
+    bringIcons();
 }
 
 DesktopToolkit::~DesktopToolkit() {

@@ -29,6 +29,7 @@ void FramePane::setTree(TreeView* tree) {
 void FramePane::setTreeSide(QWidget* side) {
     splitter_->insertWidget(0, side);
     splitter_->setStretchFactor(0, kTreeShare);
+    splitter_->setSizes({kTreeShare * width(), kViewShare * width()});
 }
 
 void FramePane::setView(QWidget* view) {
@@ -45,6 +46,14 @@ QString FramePane::title() const {
 void FramePane::activate() {
     if (QORFrmWindow* const window = window_.Get()) {
         window->ReportActivate();
+    }
+}
+
+void FramePane::takeKeyboard() {
+    if (tree_ && tree_->isVisible()) {
+        tree_->setFocus(Qt::ShortcutFocusReason);
+    } else if (view_) {
+        view_->setFocus(Qt::ShortcutFocusReason);
     }
 }
 

@@ -37,6 +37,9 @@ public:
     /// A person works in the window from now on.
     void activate();
 
+    /// Gives the tree the keyboard, or the view where no tree is seen.
+    void takeKeyboard();
+
     /// Asks the window to end, as a person's close does.
     void close();
 

@@ -48,7 +48,7 @@ void Progress::Report(long iDone, long iTotal) {
     constexpr int kThousand = 1000;
     dialog_->setMaximum(iTotal > 0 ? kThousand : 0);
     dialog_->setValue(iTotal > 0 ? static_cast<int>(std::min(iDone, iTotal) * kThousand / iTotal) : 0);
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers); // what waits for its time reads the plan
 }
 
 bool Progress::IsCancelled() {

@@ -5,6 +5,7 @@
 #include "QORPlatform/navigation/QORNavigBox.h"
 
 #include <QFont>
+#include <QScopedValueRollback>
 
 namespace planner::desktop {
 
@@ -29,6 +30,7 @@ void TreeModel::aboutToCome(const QORNavigInstance* above, int first, int last) 
 }
 
 void TreeModel::aboutToGo(const QORNavigInstance* above, int first, int last) {
+    const QScopedValueRollback<bool> removing(isRemoving_, true);
     beginRemoveRows(indexOf(above), first - 1, last - 1);
 }
 
@@ -66,6 +68,9 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return textOf(row->GetNode()->GetLabel());
     case Qt::DecorationRole:
+        if (const ModelObject* const object = ModelObject::behind(box_.GetObject(*row))) {
+            return iconOf(*object);
+        }
         return icon(textOf(row->GetNode()->GetIconName()));
     case Qt::ToolTipRole:
         return textOf(row->GetShortHelp());

@@ -25,6 +25,9 @@ public:
     void gone() { endRemoveRows(); }
     void nodeChanged(const QORNavigInstance& row);
 
+    /// Whether rows are about to go just now: what a view's selection loses by it is no person's choice.
+    bool isRemoving() const { return isRemoving_; }
+
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -34,6 +37,7 @@ public:
 
 private:
     QORNavigBox& box_;
+    bool isRemoving_ = false;
 };
 
 } // namespace planner::desktop

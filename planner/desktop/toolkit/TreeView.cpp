@@ -74,7 +74,7 @@ void TreeView::showSelection() {
 
 void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTreeView::selectionChanged(selected, deselected);
-    if (!box_ || showing_) {
+    if (!box_ || showing_ || model_.isRemoving()) {
         return;
     }
     {

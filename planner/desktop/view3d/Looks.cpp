@@ -27,6 +27,7 @@ constexpr std::uint32_t kEdge = 0x30363D;
 constexpr std::uint32_t kPicked = 0xFF9500;
 constexpr std::uint32_t kHovered = 0x35C4FF;
 constexpr float kToolTransparency = 0.75F;
+constexpr float kShineTransparency = 0.5F;
 
 /// The same on every machine.
 std::uint32_t hashOf(const std::string& text) {
@@ -78,6 +79,7 @@ Handle(AIS_InteractiveObject) dressed(const Solid& solid, Look look, const std::
     shape->Attributes()->SetFaceBoundaryAspect(edges()); // a colour for the shape is one for its edges, too
     for (const auto& [piece, colour] : solid.colours) {
         shape->SetCustomColor(piece, colour);
+        shape->CustomAspects(piece)->SetFaceBoundaryAspect(edges());
     }
     return Handle(AIS_InteractiveObject)(shape);
 }
@@ -98,6 +100,12 @@ void setBackground(V3d_View& view, bool isDark) {
 
 Handle(Prs3d_Drawer) lightOfPicked() {
     return filled(kPicked);
+}
+
+Handle(Prs3d_Drawer) lightOfShine() {
+    Handle(Prs3d_Drawer) style = filled(kPicked);
+    style->SetTransparency(kShineTransparency);
+    return style;
 }
 
 Handle(Prs3d_Drawer) lightOfHovered() {

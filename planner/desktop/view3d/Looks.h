@@ -25,8 +25,9 @@ void dressContext(AIS_InteractiveContext& context);
 void dressView(V3d_View& view);
 void setBackground(V3d_View& view, bool isDark);
 
-/// Filled light for what was picked, and for what the pointer is over.
+/// Filled light for what was picked, for how it shines through what stands before it, and for what the pointer is over.
 Handle(Prs3d_Drawer) lightOfPicked();
+Handle(Prs3d_Drawer) lightOfShine();
 Handle(Prs3d_Drawer) lightOfHovered();
 
 } // namespace planner::desktop

@@ -15,7 +15,7 @@ std::unique_ptr<ViewPeer> makeView(QORViewer& viewer, QWidget* parent) {
     try {
         return std::make_unique<SpaceView>(Graphics::shared(), viewer, parent);
     } catch (const Standard_Failure& failure) {
-        return without(reasonOf(failure));
+        return without("there is no X server to draw with (" + reasonOf(failure) + ")");
     } catch (const std::exception& failure) {
         return without(failure.what());
     }

@@ -11,12 +11,15 @@
 #include <Standard_Failure.hxx>
 #include <TopLoc_Location.hxx>
 #include <V3d_AmbientLight.hxx>
+#include <V3d_DirectionalLight.hxx>
 
 #include <utility>
 
 namespace planner::desktop {
 
 namespace {
+
+constexpr float kSky = 0.5F; // of the light that goes with the camera
 
 QString faultOf(QORBaseUnknown& object, const std::string& reason) {
     const ModelObject* const named = ModelObject::behind(QORBaseUnknown_var(&object));
@@ -28,7 +31,10 @@ QString faultOf(QORBaseUnknown& object, const std::string& reason) {
 Scene::Scene(std::shared_ptr<Graphics> graphics, QOR3DViewpoint& viewpoint)
     : graphics_(std::move(graphics)), viewpoint_(viewpoint), viewer_(new V3d_Viewer(graphics_->driver())) {
     viewer_->SetDefaultLights();
-    viewer_->AddLight(new V3d_AmbientLight(Quantity_NOC_GRAY50)); // so that what stands askew isn't dull
+    viewer_->AddLight(new V3d_AmbientLight(Quantity_NOC_GRAY40)); // so that what stands askew isn't dull
+    const Handle(V3d_DirectionalLight) sky = new V3d_DirectionalLight(V3d_Zneg);
+    sky->SetIntensity(kSky);
+    viewer_->AddLight(sky);
     viewer_->SetLightOn();
     context_ = new AIS_InteractiveContext(viewer_);
     context_->SetAutomaticHilight(false); // the selection sets say what is lit
@@ -39,6 +45,7 @@ Scene::Scene(std::shared_ptr<Graphics> graphics, QOR3DViewpoint& viewpoint)
     dressView(*view_);
     styles_[static_cast<int>(Light::Picked)] = lightOfPicked();
     styles_[static_cast<int>(Light::Hovered)] = lightOfHovered();
+    shine_ = lightOfShine();
     resize(QSize(1, 1));
     setCamera(viewpoint_.GetCamera());
 }
@@ -105,6 +112,9 @@ void Scene::make(QORBaseUnknown& object, Shown& shown) {
 void Scene::place(Shown& shown, const gp_Trsf& where) {
     if (!shown.object.IsNull()) {
         context_->SetLocation(shown.object, TopLoc_Location(where));
+        if (!shown.shine.IsNull()) {
+            context_->SetLocation(shown.shine, TopLoc_Location(where));
+        }
         return;
     }
     Prototype& prototype = prototypes_.at(shown.prototype);
@@ -118,6 +128,7 @@ void Scene::erase(Shown& shown) {
     if (shown.object.IsNull()) {
         return;
     }
+    shine(shown, false);
     objects_.erase(shown.object.get());
     --prototypes_.at(shown.prototype).users;
     context_->Remove(shown.object, false);
@@ -185,6 +196,24 @@ void Scene::light(Shown& shown, Light light) {
     context_->Unhilight(shown.object, false);
     if (light != Light::None) {
         context_->HilightWithColor(shown.object, styles_[static_cast<int>(light)], false);
+    }
+    shine(shown, light == Light::Picked);
+}
+
+/// What was chosen in a bill may stand behind a panel. An object that itself stood in front would be the one that the
+/// pointer finds there.
+void Scene::shine(Shown& shown, bool isOn) {
+    if (!shown.shine.IsNull()) {
+        context_->Remove(shown.shine, false);
+        shown.shine.Nullify();
+    }
+    if (isOn) {
+        constexpr int kNotSelectable = -1;
+        shown.shine = new AIS_ConnectedInteractive();
+        shown.shine->Connect(prototypes_.at(shown.prototype).object, shown.object->LocalTransformation());
+        shown.shine->SetZLayer(Graphic3d_ZLayerId_Topmost);
+        context_->Display(shown.shine, AIS_Shaded, kNotSelectable, false);
+        context_->HilightWithColor(shown.shine, shine_, false);
     }
 }
 

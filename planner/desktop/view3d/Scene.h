@@ -50,6 +50,8 @@ public:
     void fitAll();
     /// Looks along a direction, fitted.
     void look(V3d_TypeOfOrientation direction);
+    /// Looks as a new viewpoint does, fitted.
+    void lookAsAtFirst();
     /// Turns about the middle of the picture, upright; in radians.
     void orbit(double right, double down);
     void pan(const QPoint& pixels);
@@ -67,6 +69,7 @@ private:
     };
     struct Shown {
         Handle(AIS_ConnectedInteractive) object; ///< null for what can't be made
+        Handle(AIS_ConnectedInteractive) shine;  ///< the same in front of all else while it is picked, else null
         std::string prototype;
         long revision = 0;
         Light light = Light::None;
@@ -80,6 +83,7 @@ private:
     void dropUnused();
     void lightSets();
     void light(Shown& shown, Light light);
+    void shine(Shown& shown, bool isOn);
 
     std::shared_ptr<Graphics> graphics_;
     QOR3DViewpoint& viewpoint_;
@@ -93,6 +97,7 @@ private:
     std::unordered_set<QORBaseUnknown*> stale_;
     std::unordered_set<QORBaseUnknown*> lit_;
     Handle(Prs3d_Drawer) styles_[3]; ///< by Light
+    Handle(Prs3d_Drawer) shine_;
     bool isSelectionStale_ = true;
 };
 

@@ -19,13 +19,8 @@ struct Direction {
 
 // Keys as on a number pad.
 constexpr Direction kDirections[] = {
-    {"&Front", "1", V3d_Yneg},
-    {"Bac&k", "4", V3d_Ypos},
-    {"&Right", "3", V3d_Xpos},
-    {"&Left", "6", V3d_Xneg},
-    {"&Top", "7", V3d_Zpos},
-    {"&Bottom", "8", V3d_Zneg},
-    {"&Oblique", "9", V3d_XposYnegZpos},
+    {"&Front", "1", V3d_Yneg}, {"Bac&k", "4", V3d_Ypos}, {"&Right", "3", V3d_Xpos},
+    {"&Left", "6", V3d_Xneg},  {"&Top", "7", V3d_Zpos},  {"&Bottom", "8", V3d_Zneg},
 };
 
 } // namespace
@@ -57,6 +52,7 @@ void SceneWidget::addViews(QMenu& views) {
         views.addAction(
             addCommand(each.text, each.key, [direction = each.direction](Scene& scene) { scene.look(direction); }));
     }
+    views.addAction(addCommand("&Oblique", "9", [](Scene& scene) { scene.lookAsAtFirst(); }));
 }
 
 /// What the mouse does otherwise.

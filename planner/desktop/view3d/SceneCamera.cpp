@@ -111,6 +111,13 @@ void Scene::look(V3d_TypeOfOrientation direction) {
     fitAll();
 }
 
+void Scene::lookAsAtFirst() {
+    QORCamera first;
+    first.isPerspective = camera().isPerspective;
+    setCamera(first);
+    fitAll();
+}
+
 void Scene::orbit(double right, double down) {
     Graphic3d_Camera& camera = *view_->Camera();
     const gp_Ax1 upright(camera.Center(), gp::DZ());

@@ -71,8 +71,10 @@ void SceneWidget::followCamera() {
     changed();
 }
 
+/// Of the picture, which ends above what can't be shown.
 QSize SceneWidget::pixels() const {
-    return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo(QSize(1, 1));
+    const int told = faults_->isVisibleTo(this) ? faults_->height() : 0;
+    return (QSizeF(width(), height() - told) * devicePixelRatioF()).toSize().expandedTo(QSize(1, 1));
 }
 
 QPoint SceneWidget::pixelAt(const QPoint& position) const {
@@ -96,8 +98,9 @@ void SceneWidget::perform(const std::function<void(Scene&)>& command) {
 
 /// As long as nobody has moved the camera all is kept in view.
 void SceneWidget::render() {
-    scene_->resize(pixels());
     scene_->follow();
+    showFaults();
+    scene_->resize(pixels());
     if (isFitDue_ || !isCameraMoved_) {
         scene_->fitAll();
         isFitDue_ = false;
@@ -122,7 +125,6 @@ void SceneWidget::paintEvent(QPaintEvent*) {
         } catch (const std::exception& failure) {
             fail(failure.what());
         }
-        showFaults();
     }
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());

@@ -48,7 +48,7 @@ void SpaceView::ViewpointAdded(QORViewpoint& iViewpoint) {
         scenes_[viewpoint] = scene.get();
         widget_->addWidget(scene.release());
     } catch (const Standard_Failure& failure) {
-        note(reasonOf(failure));
+        note("OpenGL doesn't work on this display (" + reasonOf(failure) + ")");
     } catch (const std::exception& failure) {
         note(failure.what());
     }

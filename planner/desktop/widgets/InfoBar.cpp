@@ -37,6 +37,11 @@ QString InfoBar::text() const {
 }
 
 void InfoBar::say(const QString& text, const std::vector<Answer>& answers) {
+    if (answers.empty() && !isHidden() && buttons_->count() > 0) {
+        text_->setText(offer_ + '\n' + text);
+        return;
+    }
+    offer_ = text;
     while (QLayoutItem* const old = buttons_->takeAt(0)) {
         old->widget()->hide();
         old->widget()->deleteLater();

@@ -11,7 +11,7 @@ class QLabel;
 namespace planner::desktop {
 
 /// A line at the top of the window that says or asks something without stopping the work. Shows one thing at a time,
-/// the latest.
+/// the latest; an offer stays above what is said after it.
 class InfoBar : public QFrame {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ public:
 
 private:
     QLabel* text_;
+    QString offer_; ///< the text that the buttons answer
     QHBoxLayout* buttons_;
 };
 
