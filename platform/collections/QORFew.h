@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -108,7 +109,7 @@ private:
         _room = std::exchange(ioOther._room, kInside);
     }
 
-    static constexpr std::size_t kBytes = std::max(sizeof(T) * kInside, sizeof(void*));
+    static constexpr std::size_t kBytes = std::max(sizeof(std::array<T, kInside>), sizeof(void*));
 
     alignas(void*) std::byte _inside[kBytes]; // the entries, or a pointer to them
     int _size = 0;
