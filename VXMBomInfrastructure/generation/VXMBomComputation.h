@@ -3,6 +3,7 @@
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 #include "QORPlatform/dom/DOM_Document.h"
 #include "VXMBomInfrastructure/generation/VXMBackwardWalk.h"
+#include "VXMBomInfrastructure/generation/VXMBillSources.h"
 #include "VXMBomInfrastructure/generation/VXMBomTree.h"
 #include "VXMBomInfrastructure/generation/VXMChildVisits.h"
 #include "VXMBomInfrastructure/generation/VXMFlowGraph.h"
@@ -46,6 +47,9 @@ struct VXMBomComputation {
     std::optional<VXMBackwardWalk> backwardWalk;
     std::optional<VXMSiblingChains> siblings;
     std::optional<VXMRepeatMarks> repeats;
+
+    // When somebody asks for it afterwards.
+    std::optional<VXMBillSources> sources;
 
     /// The present computation of a generator, for the walks and flow nodes that belong to it.
     static VXMBomComputation& Of(VXMBomGenerator& iGenerator);

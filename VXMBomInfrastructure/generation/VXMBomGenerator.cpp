@@ -102,11 +102,28 @@ DOM_Document& VXMBomGenerator::GetBom(unsigned char iForce) {
     return _state->last.document;
 }
 
+unsigned char VXMBomGenerator::DependsOnListsOf(const QORBaseUnknown_var& iObject) {
+    if (_state->isBusy || !_state->isBuilt || !_state->computation->graph.GetFirst()) {
+        return 1;
+    }
+    const VXMModelReading reading(*this);
+    std::optional<VXMBillSources>& sources = _state->computation->sources;
+    if (!sources) {
+        sources.emplace(_state->FindEnd(*this));
+    }
+    const bool isStep = static_cast<bool>(QORISPPAbstractActivity_var(iObject));
+    return (isStep ? sources->HasStep(iObject.Impl()) : sources->HasProduct(iObject.Impl())) ? 1 : 0;
+}
+
+/// Where the walk backwards begins; null when the graph has no such node.
+VXMFabFlowNode* VXMBomGenerator::State::FindEnd(VXMBomGenerator& ioGenerator) const {
+    return endOfFlow ? ioGenerator.CheckUse(endOfFlow) : ioGenerator.GetLastNodeInFlow(computation->graph.GetFirst());
+}
+
 /// The two algorithms and the order of their passes.
 void VXMBomGenerator::State::BuildAndClean(VXMBomGenerator& ioGenerator) const {
     VXMBomGenerator& bom = ioGenerator;
-    VXMFabFlowNode* const end =
-        endOfFlow ? bom.CheckUse(endOfFlow) : bom.GetLastNodeInFlow(computation->graph.GetFirst());
+    VXMFabFlowNode* const end = FindEnd(bom);
     auto made = std::make_unique<VXMFabMBOMNode>(QORBaseUnknown_var(), 0, 0, VXMFabMBOMNode::AT_Top, 1);
     bom.AddMBOMNodeToList(made.get());
     VXMFabMBOMNode* const top = made.release();

@@ -75,6 +75,11 @@ public:
     /// The object behind every element of the document but the top one, an element's descendants before itself.
     QORListValQORBaseUnknown_var GetPreviewObjects();
 
+    /// 0 when the last document would be the same whatever the lists of iObject, an activity or a product, held by now;
+    /// 1 when it may differ, and also while a document is being computed or none is there. Links and what stands in the
+    /// plan must be as they were.
+    unsigned char DependsOnListsOf(const QORBaseUnknown_var& iObject);
+
     /// Runs the analysis of the model: drops graph and tree, makes the node of the root and walks from it. A model that
     /// calls this, or drops graph or tree, while it is being read gets std::logic_error.
     void MainCheckFlow();

@@ -43,6 +43,7 @@ public:
     VXMBomResult& GetResult() { return isBusy ? computation->result : last; }
 
     void Analyse(VXMBomGenerator& ioGenerator);
+    VXMFabFlowNode* FindEnd(VXMBomGenerator& ioGenerator) const;
     void BuildAndClean(VXMBomGenerator& ioGenerator) const;
     void TraceFlowNodes() const;
 

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
+#include <set>
 #include <vector>
 
 namespace planner {
+
+class ModelObject;
 
 /// Kinds of notification, with the numbers that the views of a plan know them by.
 enum class ChangeKind : std::uint8_t {
@@ -21,34 +25,49 @@ enum class ChangeKind : std::uint8_t {
 struct KindPair {
     ChangeKind made = ChangeKind::None;
     ChangeKind takenBack = ChangeKind::None;
+    ModelObject* owner = nullptr; ///< whose own lists it changes; null when it changes more, or it isn't known
 };
 
-constexpr KindPair eitherWay(ChangeKind kind) {
-    return {kind, kind};
+constexpr KindPair eitherWay(ChangeKind kind, ModelObject* owner = nullptr) {
+    return {kind, kind, owner};
 }
 
 inline constexpr KindPair kFlowObjectAdded{ChangeKind::FlowObjectAdded, ChangeKind::FlowObjectGone};
 inline constexpr KindPair kFlowObjectRemoved{ChangeKind::FlowObjectGone, ChangeKind::FlowObjectAdded};
 inline constexpr KindPair kFlowObjectMoved = eitherWay(ChangeKind::FlowObjectGone);
 
-/// A set of kinds.
+/// Kinds of change that are told together.
 class ChangeKinds {
 public:
-    void add(ChangeKind kind) { bits_ |= std::uint64_t(1) << static_cast<unsigned>(kind); }
+    struct Told {
+        ChangeKind kind;
+        std::vector<ModelObject*> owners; ///< whose own lists changed; empty when more did
+    };
 
-    /// The numbers of the kinds, ascending, without None.
-    std::vector<int> numbers() const {
-        std::vector<int> result;
-        for (int number = 1; number < 64; ++number) {
-            if ((bits_ >> static_cast<unsigned>(number) & 1U) != 0) {
-                result.push_back(number);
-            }
+    void add(ChangeKind kind, ModelObject* owner) {
+        if (kind == ChangeKind::None) {
+            return;
+        }
+        const auto [place, isNew] = owners_.try_emplace(kind);
+        if (owner && (isNew || !place->second.empty())) {
+            place->second.insert(owner);
+        } else {
+            place->second.clear();
+        }
+    }
+
+    /// Each kind once, ascending.
+    std::vector<Told> told() const {
+        std::vector<Told> result;
+        result.reserve(owners_.size());
+        for (const auto& [kind, owners] : owners_) {
+            result.push_back({kind, {owners.begin(), owners.end()}});
         }
         return result;
     }
 
 private:
-    std::uint64_t bits_ = 0;
+    std::map<ChangeKind, std::set<ModelObject*>> owners_; // empty sets: more than lists
 };
 
 } // namespace planner

@@ -9,15 +9,22 @@ namespace planner {
 
 namespace {
 
-/// What another entry of a list of the owner is for the views.
-KindPair listKinds(const ModelObject& owner) {
-    return eitherWay(owner.sort() == Sort::Item ? ChangeKind::ItemChanged : ChangeKind::ListsChanged);
+ChangeKind listKind(const ModelObject& owner) {
+    return owner.sort() == Sort::Item ? ChangeKind::ItemChanged : ChangeKind::ListsChanged;
+}
+
+/// What another entry of a list of the owner is for the views. What else a list makes of its owner, as an assembly is a
+/// product for its children, is more than the list.
+KindPair listKinds(ModelObject& owner) {
+    const bool isProduct = dynamic_cast<Product*>(&owner) && !dynamic_cast<Assembly*>(&owner);
+    const bool isThatAlone = owner.sort() == Sort::Activity || isProduct;
+    return eitherWay(listKind(owner), isThatAlone ? &owner : nullptr);
 }
 
 /// The change that makes an empty list absent, or an absent one empty.
 template <class List>
-std::unique_ptr<Change> makePresenceChange(const ModelObject& owner, List& list) {
-    return makeExchange(listKinds(owner), [&list] {
+std::unique_ptr<Change> makePresenceChange(KindPair kinds, List& list) {
+    return makeExchange(kinds, [&list] {
         if (list.present()) {
             list.reset();
         } else {
@@ -123,7 +130,7 @@ void PlanEditor::makeList(ModelObject& owner, Relation relation) {
     }
     perform("Begin a list of " + quoted(owner), [&] {
         ownProcess(owner);
-        open_->make(makePresenceChange(owner, list));
+        open_->make(makePresenceChange(listKinds(owner), list));
     });
 }
 
@@ -137,7 +144,7 @@ void PlanEditor::dropList(ModelObject& owner, Relation relation) {
         while (!list.empty()) {
             takeFromList(owner, list, list.size() - 1);
         }
-        open_->make(makePresenceChange(owner, list));
+        open_->make(makePresenceChange(listKinds(owner), list));
     });
 }
 
@@ -149,7 +156,7 @@ void PlanEditor::makeActivities(FlowObject& container) {
     }
     perform("Begin the activities of " + quoted(container), [&] {
         ownProcess(container);
-        open_->make(makePresenceChange(container, list));
+        open_->make(makePresenceChange(eitherWay(listKind(container)), list));
     });
 }
 
@@ -160,7 +167,8 @@ void PlanEditor::dropActivities(FlowObject& container) {
         return;
     }
     checkNothingStands(container, list);
-    perform("Drop the activities of " + quoted(container), [&] { open_->make(makePresenceChange(container, list)); });
+    perform("Drop the activities of " + quoted(container),
+            [&] { open_->make(makePresenceChange(eitherWay(listKind(container)), list)); });
 }
 
 } // namespace planner

@@ -64,9 +64,14 @@ void PlanEditor::publish(const ChangeKinds& kinds) const {
     const QORVar<QOREventSubscriber> publisher(plan().process()->GetEventPublisher());
     publisher->InGroup([&] { // so that a view that follows several kinds does it once
         std::exception_ptr first;
-        for (const int kind : kinds.numbers()) {
+        for (const ChangeKinds::Told& told : kinds.told()) {
             try {
-                QORSPPActivityNotificationDispatcher::Dispatch(*publisher.Get(), kind);
+                QORListValQORBaseUnknown_var owners;
+                for (ModelObject* owner : told.owners) {
+                    owners.Append(QORBaseUnknown_var(owner));
+                }
+                QORSPPActivityNotificationDispatcher::Dispatch(*publisher.Get(), static_cast<int>(told.kind),
+                                                               std::move(owners));
             } catch (...) {
                 first = first ? first : std::current_exception();
             }

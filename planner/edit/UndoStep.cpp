@@ -37,7 +37,7 @@ void UndoStep::forget() {
 ChangeKinds UndoStep::kindsMade() const {
     ChangeKinds kinds;
     for (const auto& change : changes_) {
-        kinds.add(change->kinds().made);
+        kinds.add(change->kinds().made, change->kinds().owner);
     }
     return kinds;
 }
@@ -45,7 +45,7 @@ ChangeKinds UndoStep::kindsMade() const {
 ChangeKinds UndoStep::kindsUndone() const {
     ChangeKinds kinds;
     for (const auto& change : changes_) {
-        kinds.add(change->kinds().takenBack);
+        kinds.add(change->kinds().takenBack, change->kinds().owner);
     }
     return kinds;
 }

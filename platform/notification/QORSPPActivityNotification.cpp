@@ -18,7 +18,9 @@ const char* QORSPPActivityNotificationDispatcher::DISPATCHER_SPP_VIEWS_CHANGE() 
     return "DISPATCHER_SPP_VIEWS_CHANGE";
 }
 
-void QORSPPActivityNotificationDispatcher::Dispatch(QOREventSubscriber& iPublisher, int iKind) {
-    const auto notification = QORVar<QORSPPActivityNotification>::Adopt(new QORSPPActivityNotification(iKind));
+void QORSPPActivityNotificationDispatcher::Dispatch(QOREventSubscriber& iPublisher, int iKind,
+                                                    QORListValQORBaseUnknown_var iChanged) {
+    const auto notification =
+        QORVar<QORSPPActivityNotification>::Adopt(new QORSPPActivityNotification(iKind, std::move(iChanged)));
     iPublisher.Publish(DISPATCHER_SPP_VIEWS_CHANGE(), notification.Get());
 }

@@ -1,6 +1,8 @@
 // The window on a plan that is edited, as a person sees it.
 
 #include "library/WindowDesk.h"
+#include "planner/edit/RandomEdits.h"
+#include "support/BomText.h"
 #include "support/Drawing.h"
 #include "support/RecordingToolkit.h"
 
@@ -12,6 +14,7 @@
 
 #include <deque>
 #include <memory>
+#include <random>
 
 using editing::Desk;
 using editing::kShop;
@@ -209,6 +212,68 @@ TEST(WindowOnAPlan, OnAResourceFollowsTheMainProcess) {
     desk.editor().removeResource(desk.resource("r"));
     desk.editor().undo();
     EXPECT_EQ(window.tree(), "Bom(a b)");
+}
+
+struct AsideCase {
+    const char* name;
+    void (*edit)(E& e, S& s);
+    bool rebuilds;
+};
+
+const AsideCase kAside[] = {
+    {"a list on no way to the end", [](E& e, S& s) { e.putItem(s.activity("aside"), Relation::Assigned, s.item("p")); },
+     false},
+    {"undone", [](E& e, S&) { e.undo(); }, false},
+    {"a product that nobody takes", [](E& e, S& s) { e.putItem(s.item("q"), Relation::Children, s.item("r")); }, false},
+    {"a list on the way", [](E& e, S& s) { e.putItem(s.activity("one"), Relation::FirstAssigned, s.item("q")); }, true},
+    {"that product, now taken", [](E& e, S& s) { e.putItem(s.item("q"), Relation::Children, s.item("p")); }, true},
+    {"what it is made of", [](E& e, S& s) { e.putItem(s.item("r"), Relation::Children, s.item("s")); }, true},
+    {"one edit aside and one on the way",
+     [](E& e, S& s) {
+         e.group("both", [&] {
+             e.putItem(s.activity("aside"), Relation::Assigned, s.item("p"));
+             e.takeItem(s.activity("one"), Relation::FirstAssigned, 0);
+         });
+     },
+     true},
+    {"a link from aside", [](E& e, S& s) { e.addLink(s.flow("aside"), s.flow("two")); }, true},
+    {"the list that was aside", [](E& e, S& s) { e.takeItem(s.activity("aside"), Relation::Assigned, 0); }, true},
+};
+
+TEST(WindowOnAPlan, RebuildsForNoListOffTheWayToTheEnd) {
+    Desk desk(R"({"version": 1, "items": [{"id": "p", "kind": "product"}, {"id": "q", "kind": "product"},
+                   {"id": "r", "kind": "product"}, {"id": "s", "kind": "product"}],
+                  "process": {"id": "line", "children": [
+                    {"id": "one", "first_assigned": ["p"]}, {"id": "two"}, {"id": "aside"}]},
+                  "links": [["one", "aside"], ["one", "two"]]})");
+    const Window window = desk.open(kTree);
+    for (const AsideCase& step : kAside) {
+        const QORVar<QORNavigInstance> before(window.box().GetRoot(1));
+        step.edit(desk.editor(), desk);
+        EXPECT_EQ(window.box().GetRoot(1) != before.Get(), step.rebuilds) << step.name;
+        EXPECT_EQ(window.tree(), desk.bill()) << step.name;
+    }
+}
+
+TEST(WindowOnAPlan, ShowsTheBillAfterAnyEdit) {
+    constexpr int kSteps = 400;
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        Desk desk(editing::kWorld);
+        std::mt19937 random(seed);
+        editing::RandomEdits edits(desk, [&random](std::size_t limit) { return random() % limit; });
+        const Window process = desk.open(kTree);
+        const Window resource(&desk.frmEditor(), &desk.resource("robot"), kTree);
+        const auto shown = [](const Window& window) {
+            return testmodel::bomText(window->GetGenerator()->GetBom(0));
+        };
+        planner::Resource& robot = desk.resource("robot");
+        for (int i = 0; i < kSteps; ++i) {
+            edits.step();
+            ASSERT_EQ(shown(process), editing::billUnder(*desk.plan().process())) << seed << ", edit " << i << '\n'
+                                                                                  << desk.text();
+            ASSERT_EQ(shown(resource), editing::billUnder(robot)) << seed << ", edit " << i << '\n' << desk.text();
+        }
+    }
 }
 
 // What the callback looks at.

@@ -30,6 +30,24 @@ bool Rebuilds(int iKind) {
     return std::find(kKindsOfRebuild.begin(), kKindsOfRebuild.end(), iKind) != kKindsOfRebuild.end();
 }
 
+/// Whether a change can change the bill that a window shows. What can't be found out may.
+bool Concerns(const QORSPPActivityNotification& iChange, VXMFabBomViewerState& ioState) {
+    if (!Rebuilds(iChange.GetNotificationKind())) {
+        return false;
+    }
+    const QORListValQORBaseUnknown_var& changed = iChange.GetChangedObjects();
+    if (changed.Size() == 0 || !ioState._generator || ioState._isRebuilding || ioState._isOutOfDate) {
+        return true;
+    }
+    try {
+        return std::any_of(changed.begin(), changed.end(), [&ioState](const QORBaseUnknown_var& iObject) {
+            return ioState._generator->DependsOnListsOf(iObject) == 1;
+        });
+    } catch (...) {
+        return true;
+    }
+}
+
 /// The entries of iBefore whose object isn't in iNow, in their order.
 QORListValQORBaseUnknown_var Missing(const QORListValQORBaseUnknown_var& iBefore,
                                      const QORListValQORBaseUnknown_var& iNow) {
@@ -205,13 +223,14 @@ void VXMFabBomViewer::OnActivityCallback(const char*, void*, QORNotification* iN
     if (!iNotification || iNotification->IsAKindOf("QORSPPActivityNotification") == 0 || !iNotification->GetImpl(0)) {
         return;
     }
-    const int kind = static_cast<QORSPPActivityNotification*>(iNotification->GetImpl(0))->GetNotificationKind();
+    const auto* const change = static_cast<QORSPPActivityNotification*>(iNotification->GetImpl(0));
+    const bool rebuild = Concerns(*change, *_state);
     if (_state->_isRebuilding) {
-        _state->_meanwhile.Add(Rebuilds(kind));
+        _state->_meanwhile.Add(rebuild);
     } else if (_state->_publisher && _state->_publisher->IsInGroup()) {
-        FollowAfterGroup(*this, *_state, Rebuilds(kind));
+        FollowAfterGroup(*this, *_state, rebuild);
     } else {
-        Follow(*this, *_state, Rebuilds(kind));
+        Follow(*this, *_state, rebuild);
     }
 }
 
