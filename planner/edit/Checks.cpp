@@ -57,7 +57,7 @@ void checkShape(const Shape& shape) {
         throw EditError(Fault::BadValue, kPartWithoutFile);
     }
     if (shape.form == Shape::Form::Step && shape.file.empty()) {
-        throw EditError(Fault::BadValue, "a shape of a file without the file's name");
+        throw EditError(Fault::BadValue, kNoStepFile);
     }
     checkText(shape.file);
     checkText(shape.part.value_or(""));

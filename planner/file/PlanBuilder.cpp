@@ -95,7 +95,7 @@ void PlanBuilder::text(const ValuePlace& place, std::string value) {
     } else if (place.object == Value::Item) {
         item_.text(place.key, std::move(value), place.offset);
     } else if (place.object == Value::Shape) {
-        shape_.text(place.key, std::move(value));
+        shape_.text(place.key, std::move(value), place.offset, faults_);
     } else if (place.key == Key::Id) {
         giveId(plan_, *place.owner, value, place.offset, faults_);
     } else if (place.key == Key::Name) {

@@ -116,6 +116,7 @@ const char* valueText(Value expected);
 std::optional<std::string> sizesFault(const FormRule& form, const std::vector<double>& sizes);
 std::optional<std::string> placeFault(const std::vector<double>& numbers);
 
+inline constexpr const char* kNoStepFile = R"("step" is an empty text; expected the path of a STEP file)";
 inline constexpr const char* kPartWithoutFile = R"("part" in a shape that is no file; expected it beside "step")";
 
 } // namespace planner

@@ -30,8 +30,10 @@ void ShapeDraft::keySeen(Key key, std::size_t offset, Faults& faults) {
     }
 }
 
-void ShapeDraft::text(Key key, std::string value) {
-    if (key == Key::Step) {
+void ShapeDraft::text(Key key, std::string value, std::size_t offset, Faults& faults) {
+    if (key == Key::Step && value.empty()) {
+        faults.addValue(offset, kNoStepFile);
+    } else if (key == Key::Step) {
         shape_.file = std::move(value);
     } else {
         shape_.part = std::move(value);

@@ -12,7 +12,7 @@ namespace planner {
 /// A shape whose keys are still coming: exactly one of them has to name a form.
 class ShapeDraft {
 public:
-    void text(Key key, std::string value);
+    void text(Key key, std::string value, std::size_t offset, Faults& faults);
     void numbers(Key key, std::vector<double> values, std::size_t offset, Faults& faults);
     void setNotes(std::string json) { shape_.notes = std::move(json); }
 

@@ -118,6 +118,8 @@ const Case kValues[] = {
      "p:1:62: \"box\" has 2 numbers; expected 3 (at /items/0/shape/box)\n"},
     {"NoSize", item(R"("kind":"item","shape":{"sphere":[0]})"),
      "p:1:65: \"sphere\" has the size 0; expected sizes above 0 (at /items/0/shape/sphere)\n"},
+    {"NoStepFile", item(R"("kind":"item","shape":{"step":"","part":"hinge"})"),
+     "p:1:63: \"step\" is an empty text; expected the path of a STEP file (at /items/0/shape/step)\n"},
     {"FourNumbersForAPlace", item(R"("kind":"item","place":[1,2,3,4])"),
      "p:1:55: \"place\" has 4 numbers; expected 3, or 6 with the turns (at /items/0/place)\n"},
     {"PointerEscapes", R"({"version":1,"a/b~":1})",
