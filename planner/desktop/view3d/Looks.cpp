@@ -5,6 +5,7 @@
 #include <AIS_ColoredShape.hxx>
 #include <Prs3d_LineAspect.hxx>
 
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 
@@ -90,7 +91,13 @@ void dressContext(AIS_InteractiveContext& context) {
 
 void dressView(V3d_View& view) {
     view.ChangeRenderingParams().NbMsaaSamples = 4;
-    view.TriedronDisplay(Aspect_TOTP_LEFT_LOWER, Quantity_NOC_GRAY50, 0.08, V3d_ZBUFFER);
+}
+
+void setFineness(V3d_View& view, double ratio) {
+    constexpr double kAxes = 0.08;
+    view.ChangeRenderingParams().Resolution =
+        static_cast<unsigned>(std::lround(Graphic3d_RenderingParams::THE_DEFAULT_RESOLUTION * ratio));
+    view.TriedronDisplay(Aspect_TOTP_LEFT_LOWER, Quantity_NOC_GRAY50, kAxes * ratio, V3d_ZBUFFER);
 }
 
 void setBackground(V3d_View& view, bool isDark) {

@@ -37,8 +37,9 @@ public:
     QStringList faults() const;
     bool isEmpty() const { return objects_.empty(); }
 
-    /// Size of the picture from now on.
-    void resize(const QSize& size);
+    /// Size of the picture in pixels from now on, and how many of them go on one of the screen at 100 %: what isn't
+    /// part of the space, names of axes and lines, is as large for the eye on every screen.
+    void resize(const QSize& size, double ratio = 1);
     QImage draw(bool isDark);
 
     /// The object that is seen at a position, null for none; all that is wholly seen in a frame.
@@ -91,6 +92,7 @@ private:
     Handle(AIS_InteractiveContext) context_;
     Handle(V3d_View) view_;
     QSize size_;
+    double ratio_ = 0; // none yet
     std::unordered_map<QORBaseUnknown*, Shown> shown_;
     std::unordered_map<const Standard_Transient*, QORBaseUnknown*> objects_;
     std::unordered_map<std::string, Prototype> prototypes_;

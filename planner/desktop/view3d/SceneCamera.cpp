@@ -12,6 +12,7 @@
 #include <cmath>
 #include <numbers>
 #include <stdexcept>
+#include <utility>
 
 namespace planner::desktop {
 
@@ -41,7 +42,10 @@ gp_XYZ vectorOf(const double (&numbers)[3]) {
 
 } // namespace
 
-void Scene::resize(const QSize& size) {
+void Scene::resize(const QSize& size, double ratio) {
+    if (std::exchange(ratio_, ratio) != ratio) {
+        setFineness(*view_, ratio);
+    }
     if (size == size_) {
         return;
     }

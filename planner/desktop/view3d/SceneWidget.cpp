@@ -100,7 +100,7 @@ void SceneWidget::perform(const std::function<void(Scene&)>& command) {
 void SceneWidget::render() {
     scene_->follow();
     showFaults();
-    scene_->resize(pixels());
+    scene_->resize(pixels(), devicePixelRatioF());
     if (isFitDue_ || !isCameraMoved_) {
         scene_->fitAll();
         isFitDue_ = false;
