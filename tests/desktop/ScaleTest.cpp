@@ -23,11 +23,12 @@ using desk::Desk;
 
 constexpr int kSteps = 50000;
 
-std::string largePlan() {
+/// So many steps in a row, each of which brings a part.
+std::string chain(int count) {
     std::string items;
     std::string steps;
     std::string links;
-    for (int i = 0; i < kSteps; ++i) {
+    for (int i = 0; i < count; ++i) {
         const std::string n = std::to_string(i);
         const char* const comma = i == 0 ? "" : ",\n";
         items += comma + (R"({"id":"p)" + n + R"(","kind":"product"})");
@@ -79,7 +80,7 @@ double costOfRun(const char* program, const QStringList& arguments) {
 }
 
 TEST(ScaleTest, ALargePlanOpensFastAndEditsAndScrollingDoNotWait) {
-    Desk desk(largePlan());
+    Desk desk(chain(kSteps));
     const QString picture = desk.file() + ".png";
     const double command = costOfRun(PLANNER_PROGRAM, {"bom", desk.file()});
     EXPECT_LT(costOfRun(DESKTOP_PROGRAM, {desk.file(), "--mode", "1", "--screenshot", picture}), 3 * command);
@@ -101,18 +102,43 @@ TEST(ScaleTest, ALargePlanOpensFastAndEditsAndScrollingDoNotWait) {
     };
     EXPECT_LT(leastCostOf(choose), bill);
 
-    QTreeView& tree = desk.bill();
-    const QModelIndex root = tree.model()->index(0, 0);
-    const int first = tree.model()->rowCount(root);
-    const auto scroll = [&](int) {
-        for (int page = 0; page < 3; ++page) {
-            QTest::keyClick(&tree, Qt::Key_PageDown);
-            Desk::settle();
-        }
+    for (QTreeView* const tree : {&desk.bill(), &desk.plan()}) {
+        const QModelIndex root = tree->model()->index(0, 0);
+        const int first = tree->model()->rowCount(root);
+        const auto scroll = [&](int) {
+            for (int page = 0; page < 3; ++page) {
+                QTest::keyClick(tree, Qt::Key_PageDown);
+                Desk::settle();
+            }
+        };
+        EXPECT_LT(leastCostOf(scroll), bill);
+        EXPECT_GT(tree->model()->rowCount(root), first);
+        EXPECT_LT(tree->model()->rowCount(root), kSteps / 20); // the others are made when they come near
+    }
+}
+
+TEST(ScaleTest, RowsThatWereNotMadeYetAreReachedRemovedBroughtBackAndSelected) {
+    constexpr int kMany = 1000;
+    Desk desk(chain(kMany));
+    QTreeView& tree = desk.plan();
+    const auto rows = [&] {
+        return tree.model()->rowCount(tree.model()->index(0, 0));
     };
-    EXPECT_LT(leastCostOf(scroll), bill);
-    EXPECT_GT(tree.model()->rowCount(root), first);
-    EXPECT_LT(tree.model()->rowCount(root), kSteps / 20); // the others are made when they come near
+    EXPECT_LT(rows(), kMany / 2);
+    desk.window().choice().choose(&desk.object("s700"));
+    desk.action("Show in Plan").trigger();
+    EXPECT_EQ(Desk::selected(tree), "s700");
+    EXPECT_FALSE(tree.visualRect(tree.currentIndex()).isEmpty());
+    const int reached = rows();
+    EXPECT_LT(reached, kMany);
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_FALSE(Desk::row(tree, "s700").isValid());
+    desk.session().undo();
+    EXPECT_EQ(Desk::row(tree, "s700").row(), 700);
+    QTest::keyClick(&tree, Qt::Key_End);
+    EXPECT_EQ(Desk::selected(tree), "s999");
+    tree.selectAll();
+    EXPECT_EQ(desk.window().choice().objects().size(), static_cast<std::size_t>(kMany) + 1); // the process, too
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "planner/desktop/icons/Icons.h"
 #include "planner/desktop/plan/Choice.h"
 #include "planner/desktop/plan/PlanSession.h"
+#include "planner/desktop/widgets/FetchNear.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -33,6 +34,7 @@ PlanPane::PlanPane(PlanSession& session, Choice& choice, const Findings& finding
             [this](ModelObject* owner, const std::vector<ModelObject*>& items) {
                 askRelation(owner, items, QCursor::pos());
             });
+    new FetchNear(*this, [this](const QModelIndex& above) { model_->fetchNext(above); });
     connect(&choice_, &Choice::changed, this, &PlanPane::showChoice);
     connect(&session_, &PlanSession::replaced, this, &PlanPane::openProcess, Qt::QueuedConnection);
     openProcess();
@@ -122,6 +124,34 @@ std::vector<PlanDrag::Entry> PlanPane::selectedRows() const {
         rows.push_back({row, model_->rowAt(index.parent()).object, row.relation ? model_->listPosition(index) : 0});
     }
     return rows;
+}
+
+/// Makes the rows that are still to come below what is open.
+void PlanPane::completeRows() {
+    std::vector<QPersistentModelIndex> open{QModelIndex()};
+    while (!open.empty()) {
+        const QModelIndex above = open.back();
+        open.pop_back();
+        model_->fetchAll(above);
+        for (int row = 0; row < model_->rowCount(above); ++row) {
+            const QModelIndex index = model_->index(row, 0, above);
+            if (isExpanded(index)) {
+                open.emplace_back(index);
+            }
+        }
+    }
+}
+
+void PlanPane::selectAll() {
+    completeRows();
+    QTreeView::selectAll();
+}
+
+QModelIndex PlanPane::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveEnd) {
+        completeRows();
+    }
+    return QTreeView::moveCursor(action, modifiers);
 }
 
 void PlanPane::removeSelected() {

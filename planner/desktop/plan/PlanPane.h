@@ -46,7 +46,11 @@ public:
     /// Where a menu for the present row comes up on the screen.
     QPoint menuPlace() const;
 
+    /// Selects every row below what is open, be it made yet or not.
+    void selectAll() override;
+
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -54,6 +58,7 @@ protected:
 private:
     void showChoice();
     void openProcess();
+    void completeRows();
 
     PlanSession& session_;
     Choice& choice_;

@@ -12,8 +12,16 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 namespace planner::desktop {
+
+namespace {
+
+/// Rows that a portion brings: a few screens.
+constexpr std::size_t kPortion = 200;
+
+} // namespace
 
 struct PlanTreeModel::Node {
     PlanRow row;
@@ -21,13 +29,14 @@ struct PlanTreeModel::Node {
     Node* above = nullptr;
     std::size_t position = 0;
     bool filled = false;
+    std::size_t total = 0; // rows that belong below, made or not; those that were made are the first of them
     std::vector<std::unique_ptr<Node>> below = {};
 };
 
 PlanTreeModel::PlanTreeModel(PlanSession& session, const Findings& findings, QObject* parent)
     : QAbstractItemModel(parent), session_(session), findings_(findings), top_(std::make_unique<Node>()) {
     connect(&session_, &PlanSession::changed, this, &PlanTreeModel::refresh);
-    connect(&session_, &PlanSession::replaced, this, &PlanTreeModel::rebuild);
+    connect(&session_, &PlanSession::replaced, this, [this] { compare(*top_); });
     connect(&findings_, &Findings::changed, this, &PlanTreeModel::refresh);
     connect(&session_, &PlanSession::aboutToReplace, this, [this] {
         beginResetModel();
@@ -35,22 +44,10 @@ PlanTreeModel::PlanTreeModel(PlanSession& session, const Findings& findings, QOb
         top_ = std::make_unique<Node>();
         endResetModel();
     });
-    rebuild();
+    compare(*top_);
 }
 
 PlanTreeModel::~PlanTreeModel() = default;
-
-void PlanTreeModel::rebuild() {
-    beginResetModel();
-    made_.clear();
-    top_ = std::make_unique<Node>();
-    top_->filled = true;
-    for (const PlanRow& row : rowsBelow(session_.plan(), nullptr)) {
-        top_->below.push_back(makeNode(row, *top_));
-    }
-    renumber(*top_, 0);
-    endResetModel();
-}
 
 std::unique_ptr<PlanTreeModel::Node> PlanTreeModel::makeNode(const PlanRow& row, Node& above) {
     auto node = std::make_unique<Node>(Node{row, QORVar<ModelObject>(row.object), &above});
@@ -96,8 +93,15 @@ void PlanTreeModel::refresh() {
     }
 }
 
-void PlanTreeModel::compare(Node& above) {
-    const std::vector<PlanRow> wanted = rowsBelow(session_.plan(), above.row.object);
+/// Brings the rows below in line with the plan. As many are made as there were, with room for what has come, and no
+/// fewer than `least`.
+void PlanTreeModel::compare(Node& above, std::size_t least) {
+    std::vector<PlanRow> wanted = rowsBelow(session_.plan(), above.row.object);
+    const std::size_t grown = wanted.size() - std::min(wanted.size(), above.total);
+    const std::size_t made = std::max(least, above.below.size() + std::min(grown, kPortion));
+    above.filled = true;
+    above.total = wanted.size();
+    wanted.resize(std::min(wanted.size(), made));
     std::vector<PlanRow> shown(above.below.size());
     std::transform(above.below.begin(), above.below.end(), shown.begin(), [](const auto& node) { return node->row; });
     for (const RowChange& change : rowChanges(std::move(shown), wanted)) {
@@ -200,14 +204,15 @@ QModelIndex PlanTreeModel::reach(ModelObject& object) {
     }
     Node* node = top_.get();
     while (!path.empty()) {
-        fetchMore(indexOf(*node));
-        const auto found = std::find_if(node->below.begin(), node->below.end(), [&](const auto& below) {
-            return below->row.object == path.back() && !below->row.relation;
-        });
-        if (found == node->below.end()) {
+        const std::vector<PlanRow> rows = rowsBelow(session_.plan(), node->row.object);
+        const auto found = std::find_if(rows.begin(), rows.end(),
+                                        [&](const PlanRow& row) { return row.object == path.back() && !row.relation; });
+        if (found == rows.end()) {
             return {};
         }
-        node = found->get();
+        const auto position = static_cast<std::size_t>(found - rows.begin());
+        compare(*node, position + 1);
+        node = node->below[position].get();
         path.pop_back();
     }
     return indexOf(*node);
@@ -244,15 +249,22 @@ bool PlanTreeModel::canFetchMore(const QModelIndex& parent) const {
     return node.row.object && !node.filled;
 }
 
+/// The first portion only: a view that lays out its rows anew asks each time whether there are more.
 void PlanTreeModel::fetchMore(const QModelIndex& parent) {
-    Node& node = *nodeAt(parent);
-    if (std::exchange(node.filled, true)) {
-        return;
+    if (canFetchMore(parent)) {
+        compare(*nodeAt(parent));
     }
-    const std::vector<PlanRow> rows = rowsBelow(session_.plan(), node.row.object);
-    if (!rows.empty()) {
-        insertNodes(node, 0, rows);
+}
+
+void PlanTreeModel::fetchNext(const QModelIndex& above) {
+    Node& node = *nodeAt(above);
+    if (node.below.size() < node.total) {
+        compare(node, node.below.size() + kPortion);
     }
+}
+
+void PlanTreeModel::fetchAll(const QModelIndex& above) {
+    compare(*nodeAt(above), std::numeric_limits<std::size_t>::max());
 }
 
 // What is seen
@@ -369,9 +381,12 @@ DropPlace PlanTreeModel::placeAt(int row, const QModelIndex& parent) const {
             place.beforeEntry = PlanDrag::Entry{rowAt(index), above.row.object, listPosition(index)};
         }
     }
-    for (auto at = static_cast<std::size_t>(row); row >= 0 && at < above.below.size() && !place.before; ++at) {
-        const PlanRow& next = above.below[at]->row;
-        place.before = next.relation || next.object->sort() == Sort::Behaviour ? nullptr : next.object;
+    if (row >= 0) { // what comes next may be a row that wasn't made
+        const std::vector<PlanRow> rows = rowsBelow(session_.plan(), above.row.object);
+        for (auto at = static_cast<std::size_t>(row); at < rows.size() && !place.before; ++at) {
+            const bool stands = !rows[at].relation && rows[at].object->sort() != Sort::Behaviour;
+            place.before = stands ? rows[at].object : nullptr;
+        }
     }
     return place;
 }

@@ -13,8 +13,9 @@ class Findings;
 class PlanSession;
 struct DropPlace;
 
-/// The plan as a tree. Rows are made when a person opens the row above; after a change of the plan only those that were
-/// made are compared with it, and what is still there stays the same row.
+/// The plan as a tree. Rows are made in portions: the first when a person opens the row above, further ones as they are
+/// asked for. After a change of the plan only those that were made are compared with it, and what is still there stays
+/// the same row.
 class PlanTreeModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -36,6 +37,10 @@ public:
     /// The row of an activity, a resource or a behaviour, made with those above it where it wasn't yet. Invalid for
     /// what doesn't stand in the plan.
     QModelIndex reach(ModelObject& object);
+
+    /// Makes the next portion of the rows below an opened one, or all of them; nothing happens where there are no more.
+    void fetchNext(const QModelIndex& above);
+    void fetchAll(const QModelIndex& above);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
@@ -66,9 +71,8 @@ private:
     QModelIndex indexOf(const Node& node, int column = 0) const;
     std::unique_ptr<Node> makeNode(const PlanRow& row, Node& above);
     void forget(const Node& node);
-    void rebuild();
     void refresh();
-    void compare(Node& above);
+    void compare(Node& above, std::size_t least = 0);
     void removeNodes(Node& above, std::size_t first, std::size_t count);
     void insertNodes(Node& above, std::size_t first, const std::vector<PlanRow>& rows);
     void moveNode(Node& above, std::size_t from, std::size_t target);

@@ -95,7 +95,8 @@ void insertMissing(const Rows& shown, const Rows& wanted, std::vector<RowChange>
 
 std::vector<RowChange> rowChanges(Rows shown, const Rows& wanted) {
     std::vector<RowChange> changes;
-    if (shown == wanted) {
+    if (isInOrder(shown, wanted)) { // nothing has to go
+        insertMissing(shown, wanted, changes);
         return changes;
     }
     removeUnwanted(shown, wanted, changes);

@@ -1,10 +1,10 @@
 #include "planner/desktop/toolkit/TreeView.h"
 
 #include "planner/desktop/toolkit/TreeModel.h"
+#include "planner/desktop/widgets/FetchNear.h"
 
 #include "QORPlatform/navigation/QORNavigBox.h"
 
-#include <QMetaObject>
 #include <QScopedValueRollback>
 
 #include <deque>
@@ -24,6 +24,7 @@ TreeView::TreeView(QORNavigBox& box, TreeModel& model, QWidget* parent) : QTreeV
     setHeaderHidden(true);
     setUniformRowHeights(true);
     followSettings();
+    new FetchNear(*this, [this](const QModelIndex& above) { fetch(above); });
     connect(this, &QTreeView::expanded, this, &TreeView::reportOpen);
     connect(this, &QTreeView::collapsed, this, &TreeView::reportClosed);
     connect(this, &QTreeView::activated, this, [this](const QModelIndex& index) {
@@ -88,27 +89,9 @@ void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelec
     Q_EMIT picked();
 }
 
-void TreeView::paintEvent(QPaintEvent* event) {
-    QTreeView::paintEvent(event);
-    if (!fetching_) {
-        fetching_ = true;
-        QMetaObject::invokeMethod(this, &TreeView::fetchNear, Qt::QueuedConnection);
-    }
-}
-
-/// Brings further rows of every list whose last one so far is in sight.
-void TreeView::fetchNear() {
-    fetching_ = false;
-    std::vector<QORVar<QORNavigInstance>> ending;
-    for (QModelIndex index = indexAt({1, 1});
-         box_ && index.isValid() && visualRect(index).top() <= viewport()->height(); index = indexBelow(index)) {
-        QORNavigInstance* const above = model_.rowAt(index)->GetParent();
-        if (above && above->GetPendingCount() > 0 && !model_.index(index.row() + 1, 0, index.parent()).isValid()) {
-            ending.emplace_back(above);
-        }
-    }
-    for (const auto& row : ending) {
-        row->Fetch(kPortion);
+void TreeView::fetch(const QModelIndex& above) {
+    if (box_ && above.isValid()) {
+        model_.rowAt(above)->Fetch(kPortion);
     }
 }
 

@@ -44,18 +44,16 @@ Q_SIGNALS:
     void picked();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     void reportOpen(const QModelIndex& index);
     void reportClosed(const QModelIndex& index);
-    void fetchNear();
+    void fetch(const QModelIndex& above);
 
     QORNavigBox* box_;
     TreeModel& model_;
     bool showing_ = false;
-    bool fetching_ = false;
 };
 
 } // namespace planner::desktop
