@@ -3,7 +3,9 @@
 
 #include "desktop/Desk.h"
 
+#include "planner/desktop/app/FileCommands.h"
 #include "planner/desktop/plan/Choice.h"
+#include "planner/desktop/plan/Recovery.h"
 
 #include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
@@ -115,6 +117,7 @@ TEST(ScaleTest, ALargePlanOpensFastAndEditsAndScrollingDoNotWait) {
         EXPECT_GT(tree->model()->rowCount(root), first);
         EXPECT_LT(tree->model()->rowCount(root), kSteps / 20); // the others are made when they come near
     }
+    EXPECT_LT(leastCostOf([&](int) { desk.window().files().recovery().writeNow(); }), bill / 2);
 }
 
 TEST(ScaleTest, RowsThatWereNotMadeYetAreReachedRemovedBroughtBackAndSelected) {

@@ -33,6 +33,13 @@ QString originOf(const QString& base) {
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// Puts a content in the place of a file in one step. Gives what went wrong, or nothing.
+QString replaceFile(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    const bool done = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return done ? QString() : file.errorString();
+}
+
 void removeFiles(const QString& base) {
     QFile::remove(base + ".plan.json");
     QFile::remove(base + ".origin");
@@ -46,6 +53,7 @@ Recovery::Recovery(PlanSession& session) : QObject(&session), session_(session) 
     lock_ = std::make_unique<QLockFile>(base_ + ".lock");
     lock_->setStaleLockTime(0);
     lock_->lock();
+    writer_.setMaxThreadCount(1);
     idle_.setSingleShot(true);
     idle_.setInterval(kIdleMilliseconds);
     connect(&idle_, &QTimer::timeout, this, &Recovery::writeNow);
@@ -71,18 +79,26 @@ void Recovery::writeNow() {
         clear();
         return;
     }
-    QSaveFile origin(base_ + ".origin");
-    if (origin.open(QIODevice::WriteOnly)) {
-        origin.write(session_.path().toUtf8());
-        origin.commit();
-    }
-    if (const auto error = writePlanFile(session_.plan(), file().toStdString())) {
-        Q_EMIT session_.refused("The recovery file can't be written: " + QString::fromStdString(*error));
-    }
+    std::string text;
+    TextSink sink(text);
+    writePlan(session_.plan(), sink);
+    sink.finish();
+    writer_.start([this, text = std::move(text), base = base_, origin = session_.path().toUtf8()] {
+        QString error = replaceFile(base + ".origin", origin);
+        if (error.isEmpty()) {
+            error = replaceFile(base + ".plan.json", QByteArray::fromRawData(text.data(), qsizetype(text.size())));
+        }
+        if (!error.isEmpty()) {
+            QMetaObject::invokeMethod(
+                this, [this, error] { Q_EMIT session_.refused("The recovery file can't be written: " + error); },
+                Qt::QueuedConnection);
+        }
+    });
 }
 
 void Recovery::clear() {
     idle_.stop();
+    writer_.waitForDone(); // or the files would come back
     removeFiles(base_);
 }
 
@@ -113,6 +129,7 @@ QStringList Recovery::restore(const Left& left) {
         read.plan->folder = QFileInfo(left.origin).path().toStdString();
         session_.takeUnsaved(std::move(read.plan), left.origin);
         writeNow();
+        writer_.waitForDone();
         discard(left);
     }
     return faults;

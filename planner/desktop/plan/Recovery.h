@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QLockFile>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <memory>
@@ -12,7 +13,8 @@ namespace planner::desktop {
 class PlanSession;
 
 /// Keeps what isn't saved in a file of the user's own, so that it survives the end of the process: written when a
-/// person pauses after edits, gone when the plan is saved or given up.
+/// person pauses after edits, gone when the plan is saved or given up. Only the plan's text is made meanwhile; a thread
+/// brings it to the disk, where it replaces the one before when it is complete.
 class Recovery : public QObject {
     Q_OBJECT
 
@@ -40,7 +42,7 @@ public:
     /// The file of this process, whether it is there or not.
     QString file() const { return base_ + ".plan.json"; }
 
-    /// Writes what isn't saved without waiting.
+    /// Begins to write what isn't saved without waiting for a pause.
     void writeNow();
 
 private:
@@ -51,6 +53,7 @@ private:
     QString base_;
     std::unique_ptr<QLockFile> lock_;
     QTimer idle_;
+    QThreadPool writer_; // of one thread, which writes one text behind the other
 };
 
 } // namespace planner::desktop
