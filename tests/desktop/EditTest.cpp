@@ -7,12 +7,15 @@
 
 #include "planner/model/Contents.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -137,6 +140,31 @@ TEST(EditTest, PropertiesAreWrittenAndFollow) {
     desk.session().undo();
     EXPECT_EQ(size.value(), 900);
     EXPECT_EQ(static_cast<planner::Item&>(desk.object("door")).geometry().shape->sizes[0], 900);
+}
+
+TEST(EditTest, WhatAFastenerJoinsIsTypedChosenAndTakenOut) {
+    Desk desk;
+    Desk::click(desk.find<QListView>("item-list"), "rivet");
+    const auto& rivet = static_cast<planner::Fastener&>(desk.object("rivet"));
+    auto& field = desk.find<QLineEdit>("join");
+    field.setFocus();
+    desk.type("door", true);
+    desk.type("hin");
+    QTest::keyClick(field.completer()->popup(), Qt::Key_Down);
+    QTest::keyClick(field.completer()->popup(), Qt::Key_Return);
+    Desk::settle();
+    EXPECT_EQ(names(rivet.joins), "door hinge");
+    EXPECT_EQ(field.text(), "");
+    desk.type("nothing", true);
+    EXPECT_EQ(field.text(), "nothing"); // still to be mended
+    EXPECT_EQ(names(rivet.joins), "door hinge");
+    auto& list = desk.find<QListWidget>("joins");
+    Desk::click(list, "door");
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(names(rivet.joins), "hinge");
+    desk.action("Undo: Take \"door\"").trigger();
+    EXPECT_EQ(names(rivet.joins), "door hinge");
+    EXPECT_EQ(list.count(), 2);
 }
 
 TEST(EditTest, AFieldThatGoesAwayWithItsShapeWritesNothing) {

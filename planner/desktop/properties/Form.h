@@ -42,6 +42,9 @@ void addActivityRows(Form& form, Activity& activity);
 void addFlowRows(Form& form, FlowObject& object);
 void addPlanRows(Form& form);
 
+/// Rows for what a fastener joins.
+void addJoinRows(Form& form, Fastener& fastener);
+
 /// Rows for the shape of an item and the place where it stands.
 void addShapeRows(Form& form, Item& item);
 

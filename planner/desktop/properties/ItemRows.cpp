@@ -264,6 +264,7 @@ void addShapeRows(Form& form, Item& item) {
 void addItemRows(Form& form, Item& item) {
     if (item.kind() == ItemKind::Fastener) {
         addFastenerRows(form, static_cast<Fastener&>(item));
+        addJoinRows(form, static_cast<Fastener&>(item));
     }
     addShapeRows(form, item);
 }
