@@ -95,6 +95,20 @@ void TreeView::fetch(const QModelIndex& above) {
     }
 }
 
+/// The end is that of the tree, whose rows may not have come yet.
+QModelIndex TreeView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const auto lastBelow = [this](const QModelIndex& above) {
+        return model_.index(model_.rowCount(above) - 1, 0, above);
+    };
+    if (action == MoveEnd && box_) {
+        for (QModelIndex row = lastBelow({}); row.isValid() && isExpanded(row); row = lastBelow(row)) {
+            QORNavigInstance& above = *model_.rowAt(row);
+            above.Fetch(above.GetPendingCount());
+        }
+    }
+    return QTreeView::moveCursor(action, modifiers);
+}
+
 bool TreeView::reveal(const std::vector<int>& path) {
     QORVar<QORNavigInstance> row(box_ && !path.empty() ? box_->GetRoot(path.front()) : nullptr);
     for (std::size_t level = 1; row && level < path.size(); ++level) {
