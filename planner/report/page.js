@@ -4,7 +4,8 @@
 
 const data = JSON.parse(document.getElementById("data").textContent);
 const STEP = 300;      // rows that are made at once
-const PRINTED = 20000; // rows that go to paper
+const PRINTED = 20000; // rows of the bill that go to paper
+const LISTED = 1000;   // entries of each other list that do
 const DEEP = 14;       // levels that are moved to the right
 
 const levels = data.levels;
@@ -31,21 +32,23 @@ function element(tag, attributes = {}, ...children) {
     return made;
 }
 
-/// Fills a place with what `make` gives for the entries, STEP of them, and a button for the next ones.
+/// Fills a place with what `make` gives for the entries, STEP of them, and a button for the next ones. `place.add` makes
+/// so many more and gives their number.
 function fill(place, entries, make, most = STEP) {
     let made = 0;
-    const more = element("button", { class: "more", onclick: () => add(STEP) });
-    const add = (count) => {
+    const more = element("button", { class: "more", onclick: () => place.add(STEP) });
+    place.add = (count) => {
         more.remove();
         const next = entries(count);
         for (const entry of next.list) place.append(make(entry));
         made += next.list.length;
         if (next.isMore) {
-            more.textContent = "Show more" + (next.all ? ` (${number(made)} of ${number(next.all)})` : "");
+            more.textContent = "Show more" + (next.all ? ` (${number(made)} of ${number(next.all)} are shown)` : "");
             place.append(more);
         }
+        return next.list.length;
     };
-    add(most);
+    place.add(most);
 }
 
 /// Gives the entries of a list, some at a time.
@@ -105,15 +108,20 @@ function showTree() {
     fill(tree, rowsBelow(-1), rowElement);
 }
 
-/// Opens what is closed, from the top on, until so many rows are there.
+/// Makes what isn't there yet and opens what is closed, from the top on, until so many rows are there.
 function openAll(most) {
-    const waiting = [...tree.querySelectorAll("[data-row]")];
-    let made = waiting.length;
-    for (let i = 0; i < waiting.length && made < most; ++i) {
-        waiting[i].open(true, most - made);
-        const kids = waiting[i].querySelectorAll(":scope > .kids > [data-row]");
-        made += kids.length;
-        waiting.push(...kids);
+    let made = tree.querySelectorAll(".row").length;
+    const places = [tree];
+    for (let i = 0; i < places.length && made < most; ++i) {
+        made += places[i].add(most - made);
+        for (const item of places[i].querySelectorAll(":scope > [data-row]")) {
+            const known = item.querySelector(":scope > .kids");
+            if (!known && made < most) item.open(true, most - made);
+            const kids = item.querySelector(":scope > .kids");
+            if (!kids) continue;
+            if (!known) made += kids.querySelectorAll(".row").length;
+            places.push(kids);
+        }
     }
 }
 
@@ -196,16 +204,17 @@ function findingElement([object, message, advice, place]) {
 function showSums() {
     const counts = new Map();
     for (const row of data.rows) counts.set(data.things[row][1], (counts.get(data.things[row][1]) || 0) + 1);
-    const kinds = [...counts].map(([kind, count]) => `${number(count)} × ${kind}`).join(", ");
-    document.getElementById("sums").textContent = `${number(rowCount)} elements${kinds ? ": " + kinds : ""}`;
+    const counted = (count, word) => `${number(count)} ${count === 1 ? word : word.replace(/y$/, "ie") + "s"}`;
+    const kinds = [...counts].map(([kind, count]) => counted(count, kind)).join(", ");
+    document.getElementById("sums").textContent = counted(rowCount, "element") + (kinds ? `: ${kinds}` : "");
 }
 
 function showRest() {
     const kits = document.getElementById("kit-list");
-    fill(kits, inTurn(data.kits), kitElement);
+    fill(kits.appendChild(element("div")), inTurn(data.kits), kitElement);
     if (data.differences.length) {
         kits.append(element("h3", { class: "warning" }, "What doesn't add up"));
-        fill(kits, inTurn(data.differences), ([item, inKits, inBill, reason]) =>
+        fill(kits.appendChild(element("div")), inTurn(data.differences), ([item, inKits, inBill, reason]) =>
             element("div", { class: "finding" }, element("strong", {}, named(item)),
                 ` ${number(inKits)} in the kits, ${number(inBill)} in the bill: ${reason}`));
     }
@@ -233,7 +242,9 @@ document.getElementById("close").addEventListener("click", () => search(""));
 window.addEventListener("hashchange", searchByHash);
 window.addEventListener("beforeprint", () => {
     openAll(PRINTED);
-    if (rowCount > PRINTED) document.getElementById("found").textContent = `Of ${number(rowCount)} rows the first are printed`;
+    if (rowCount > PRINTED && !document.getElementById("search").value)
+        document.getElementById("found").textContent = `${number(PRINTED)} of ${number(rowCount)} rows are printed`;
+    for (const list of document.querySelectorAll("#kit-list > div, #check-list > div")) list.add(Math.max(0, LISTED - list.childElementCount));
     for (const each of document.querySelectorAll("details")) {
         each.open = true;
         each.dispatchEvent(new Event("toggle"));

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <unistd.h>
 
 using namespace plantext;
@@ -27,24 +28,34 @@ struct Case {
     const char* part; ///< of what the browser shows; a ! in front says that it isn't there
 };
 
-class Page : public testing::TestWithParam<Case> {};
+bool hasBrowser() {
+    return runShell("command -v chromium").status == 0;
+}
 
-TEST_P(Page, ShowsInABrowser) {
-    if (runShell("command -v chromium").status != 0) {
-        GTEST_SKIP() << "chromium isn't installed";
-    }
+/// What stands in the page of a plan when its script has run, and another one behind it. The data of the page are no
+/// part of that.
+std::string seenOf(const std::string& plan, const std::string& hash, const std::string& script = "") {
     const std::string file = makeFile("page", "") + ".html";
-    const Outcome ran = run("report % -o " + file, kPlan);
-    ASSERT_EQ(ran.status, 0) << ran.errors;
+    const Outcome ran = run("report % -o " + file, plan);
+    EXPECT_EQ(ran.status, 0) << ran.errors;
+    std::ofstream(file, std::ios::app) << "<script>" << script << "</script>";
     const std::string profile = makeFile("profile", "") + ".d";
     const Outcome shown =
         runShell("timeout 60 chromium --headless --no-sandbox --disable-gpu --user-data-dir=" + profile +
-                 " --virtual-time-budget=2000 --dump-dom 'file://" + file + GetParam().hash + "'");
+                 " --virtual-time-budget=2000 --dump-dom 'file://" + file + hash + "'");
     ::unlink(file.c_str());
     runShell("rm -rf " + profile);
-    ASSERT_NE(shown.output.find("<html"), std::string::npos) << shown.errors;
-    // The data of the page are no part of what is seen.
-    const std::string seen = shown.output.substr(0, shown.output.find("<script id=\"data\""));
+    EXPECT_NE(shown.output.find("<html"), std::string::npos) << shown.errors;
+    return shown.output.substr(0, shown.output.find("<script id=\"data\""));
+}
+
+class Page : public testing::TestWithParam<Case> {};
+
+TEST_P(Page, ShowsInABrowser) {
+    if (!hasBrowser()) {
+        GTEST_SKIP() << "chromium isn't installed";
+    }
+    const std::string seen = seenOf(kPlan, GetParam().hash);
     const bool isAbsent = GetParam().part[0] == '!';
     EXPECT_EQ(seen.find(GetParam().part + (isAbsent ? 1 : 0)) == std::string::npos, isAbsent) << seen;
 }
@@ -65,6 +76,35 @@ const Case kCases[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Report, Page, testing::ValuesIn(kCases),
                          [](const auto& each) { return std::string(each.param.name); });
+
+TEST(Report, GoesToPaperWhole) {
+    if (!hasBrowser()) {
+        GTEST_SKIP() << "chromium isn't installed";
+    }
+    constexpr std::size_t kSteps = 700; // more than are made at once
+    std::string items;
+    std::string steps;
+    std::string links;
+    for (std::size_t i = 0; i < kSteps; ++i) {
+        const std::string n = std::to_string(i);
+        items += (i == 0 ? "" : ",") + ("{\"id\": \"p" + n) + "\", \"kind\": \"product\"}";
+        steps += (i == 0 ? "" : ",") + ("{\"id\": \"s" + n) + "\", \"first_assigned\": [\"p" + n + "\"]}";
+        links += i == 0 ? "" : (i == 1 ? "" : ",") + ("[\"s" + std::to_string(i - 1)) + "\", \"s" + n + "\"]";
+    }
+    const std::string plan = R"({"version": 1, "items": [)" + items + R"(], "process": {"id": "line", "children": [)" +
+                             steps + "]}, \"links\": [" + links + "]}";
+    const std::string seen = seenOf(plan, "", "dispatchEvent(new Event('beforeprint'))");
+    const auto count = [&](const std::string& part) {
+        std::size_t number = 0;
+        for (std::size_t at = seen.find(part); at != std::string::npos; at = seen.find(part, at + 1)) {
+            ++number;
+        }
+        return number;
+    };
+    EXPECT_EQ(count("class=\"row\""), kSteps);
+    EXPECT_EQ(count("<summary>"), kSteps);
+    EXPECT_EQ(count("Show more"), 0U);
+}
 
 TEST(Report, AsksForNothingFromOutside) {
     const Outcome ran = run("report %", kPlan);
