@@ -42,7 +42,8 @@ std::string linesOf(const Command& command) {
     for (const Parameter& option : command.options) {
         lines += start + " -l " + option.name.substr(2);
         lines += option.letter ? std::string(" -s ") + option.letter : std::string();
-        lines += option.value == Value::None ? "" : " -r" + offer(option);
+        lines += option.value == Value::None ? "" : option.value == Value::File ? " -r" : " -x";
+        lines += offer(option);
         lines += " -d " + quoted(option.help) + '\n';
     }
     for (const Parameter& operand : command.operands) {
