@@ -2,6 +2,8 @@
 
 #include "planner/text/ObjectText.h"
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
@@ -20,6 +22,25 @@ void visitLists(const Kit& kit, Visit visit) {
     visit(kit.putOut, "puts out", std::string());
 }
 
+std::string inOneText(const std::vector<std::string>& reasons) {
+    std::string all;
+    for (const std::string& reason : reasons) {
+        all += (all.empty() ? "" : "; ") + reason;
+    }
+    return all;
+}
+
+/// What doesn't add up between kits and bill.
+void addDifferences(Workbook& workbook, const std::vector<KitDifference>& differences) {
+    workbook.beginSheet("Kits against bill",
+                        {{"Item", 36}, {"In kits", 8}, {"In bill", 8}, {"Kind", 10}, {"Id", 24}, {"Reason", 100}});
+    for (const KitDifference& each : differences) {
+        workbook.addRow(kPlaceLevel,
+                        {each.item->name(), static_cast<double>(each.inKits), static_cast<double>(each.inBill),
+                         std::string(kindWord(*each.item)), each.item->id(), inOneText(each.reasons)});
+    }
+}
+
 } // namespace
 
 void addKitsSheet(Workbook& workbook, const Kits& kits, const std::string& name) {
@@ -35,6 +56,9 @@ void addKitsSheet(Workbook& workbook, const Kits& kits, const std::string& name)
             }
         });
     }
+    if (!kits.differences.empty()) {
+        addDifferences(workbook, kits.differences);
+    }
 }
 
 std::size_t rowsOfKits(const Kits& kits) {
@@ -43,7 +67,7 @@ std::size_t rowsOfKits(const Kits& kits) {
         visitLists(kit,
                    [&](const std::vector<KitItem>& items, const char*, const std::string&) { rows += items.size(); });
     }
-    return rows;
+    return std::max(rows, kits.differences.size());
 }
 
 } // namespace planner

@@ -5,10 +5,11 @@
 
 namespace planner {
 
-/// Adds kits as a sheet: a row for each place, and below it one for each item, by what becomes of it there.
+/// Adds kits as a sheet: a row for each place, and below it one for each item, by what becomes of it there. What doesn't
+/// add up stands in a second sheet, if anything does.
 void addKitsSheet(Workbook& workbook, const Kits& kits, const std::string& name);
 
-/// The rows of that sheet.
+/// The rows of the longer one.
 std::size_t rowsOfKits(const Kits& kits);
 
 } // namespace planner

@@ -99,7 +99,11 @@ public:
         endSheet();
         columns_ = columns;
         row_ = 0;
-        sheet_ = workbook_add_worksheet(book_, sheetName(name).c_str());
+        std::string free = sheetName(name);
+        for (int number = 2; workbook_get_worksheet_by_name(book_, free.c_str()); ++number) {
+            free = sheetName(std::to_string(number) + ' ' + name);
+        }
+        sheet_ = workbook_add_worksheet(book_, free.c_str());
         if (!sheet_) {
             note(LXW_ERROR_SHEETNAME_ALREADY_USED);
             return;

@@ -35,7 +35,7 @@ public:
     Workbook(const Workbook&) = delete;
     Workbook& operator=(const Workbook&) = delete;
 
-    /// Begins a sheet. Signs that its name can't have are left out of it.
+    /// Begins a sheet. Signs that its name can't have are left out of it; a name that is taken gets a number in front.
     void beginSheet(const std::string& name, const std::vector<SheetColumn>& columns);
 
     /// Adds a row to the sheet, of as many cells as there are columns. Level 1 stands at the margin.

@@ -69,6 +69,10 @@ TEST(Sheet, HasTheKits) {
 0 'line / S' 'station' 's'
 1 1>'P' 'brings in' 2 'product' 'p'
 1 1>'r' 'sets' 1 'Rivet' 'fastener' 'r'
+Kits against bill frozen: 1 frozen filter: A1:F3 sums below: 0
+0 'Item' 'In kits' 'In bill' 'Kind' 'Id' 'Reason'
+0 'P' 2 0 'product' 'p' 'first assigned in l: never reached: no way leads from the step to the end of the flow'
+0 'r' 1 0 'fastener' 'r' 'fastened in l: never reached: no way leads from the step to the end of the flow'
 )");
 }
 
