@@ -21,12 +21,12 @@ constexpr std::size_t kMostWholes = 20;
 /// One of the two plans, with what the search asks of it.
 class Side {
 public:
-    Side(const BilledPlan& billed, const KeyedPlan& keyed) : flow_(billed.generator, billed.root) {
+    Side(const BilledPlan& billed, const KeyedPlan& keyed) : keyed_(keyed), flow_(billed.generator, billed.root) {
         for (const ModelObject* owner : keyed.objects()) {
             for (const Relation relation : kRelations) {
                 const ObjectList* const list = owner->sort() == Sort::Item ? nullptr : listOf(*owner, relation);
                 for (const ModelObject* item : list ? list->entries() : std::vector<ModelObject*>()) {
-                    std::vector<const FlowObject*>& steps = namedBy_[keyOf(*item)];
+                    std::vector<const FlowObject*>& steps = namedBy_[item];
                     const auto* const step = static_cast<const FlowObject*>(owner);
                     if (steps.empty() || steps.back() != step) {
                         steps.push_back(step);
@@ -35,50 +35,55 @@ public:
             }
         }
         for (const ReachedStep& step : flow_.steps()) {
-            paths_[keyOf(*step.object)] += step.paths;
+            paths_[step.object] += step.paths;
         }
     }
 
     /// Finds for each step the nearest edit of the flow at it or behind it.
     void spreadEdits(const std::unordered_map<std::string, std::size_t>& edits) {
+        std::unordered_map<const ModelObject*, std::size_t> ofSteps;
+        for (const auto& [key, number] : edits) {
+            ofSteps.emplace(keyed_.find(key), number);
+        }
         const auto& steps = flow_.steps();
         std::vector<std::size_t> nearest(steps.size(), kNone);
         for (std::size_t i = steps.size(); i-- > 0;) {
-            const auto own = edits.find(keyOf(*steps[i].object));
-            nearest[i] = own == edits.end() ? nearest[i] : own->second;
+            const auto own = ofSteps.find(steps[i].object);
+            nearest[i] = own == ofSteps.end() ? nearest[i] : own->second;
             for (const std::uint32_t before : steps[i].before) {
                 nearest[before] = nearest[before] == kNone ? nearest[i] : nearest[before];
             }
             if (nearest[i] != kNone) {
-                nearest_.emplace(keyOf(*steps[i].object), nearest[i]);
+                nearest_.emplace(steps[i].object, nearest[i]);
             }
         }
     }
 
     const std::vector<const FlowObject*>& stepsNaming(const std::string& key) const {
         static const std::vector<const FlowObject*> none;
-        const auto found = namedBy_.find(key);
+        const auto found = namedBy_.find(keyed_.find(key));
         return found == namedBy_.end() ? none : found->second;
     }
 
     /// On how many paths a step counts, 0 off the way to the end of the flow.
     double pathsOf(const std::string& step) const {
-        const auto found = paths_.find(step);
+        const auto found = paths_.find(keyed_.find(step));
         return found == paths_.end() ? 0 : found->second;
     }
 
     std::size_t nearestEdit(const std::string& step) const {
-        const auto found = nearest_.find(step);
+        const auto found = nearest_.find(keyed_.find(step));
         return found == nearest_.end() ? kNone : found->second;
     }
 
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
 private:
+    const KeyedPlan& keyed_;
     ReachedFlow flow_;
-    std::unordered_map<std::string, std::vector<const FlowObject*>> namedBy_;
-    std::unordered_map<std::string, double> paths_;
-    std::unordered_map<std::string, std::size_t> nearest_;
+    std::unordered_map<const ModelObject*, std::vector<const FlowObject*>> namedBy_; // by item
+    std::unordered_map<const ModelObject*, double> paths_;                           // by step
+    std::unordered_map<const ModelObject*, std::size_t> nearest_;                    // by step
 };
 
 /// A step as a flow knows it: a behaviour goes by its resource.
@@ -113,9 +118,7 @@ public:
             takeOrders(placed.change.after);
         }
         const std::vector<std::string> keys = keysOf(placed);
-        for (const std::string& key : keys) {
-            takeAll(byItem_, key);
-        }
+        takeItemEdits(keys, false);
         for (const bool always : {false, true}) {
             for (std::size_t i = 0; i < keys.size() && (!always || found_.empty()); ++i) {
                 takeSteps(sides_[0].stepsNaming(keys[i]), always);
@@ -124,6 +127,9 @@ public:
         }
         for (std::size_t i = 0; isFarAway_ && i < ofFlow_.size(); ++i) {
             take(ofFlow_[i]);
+        }
+        if (found_.empty()) {
+            takeItemEdits(keys, true);
         }
         for (const Numbers* some : {&ofFlow_, &ofOrder_, &ofItems_}) {
             if (found_.empty()) {
@@ -208,6 +214,24 @@ private:
                 return;
             }
             take(number);
+        }
+    }
+
+    /// Edits of an element, which comes first, and of its wholes: those that are about them, or those by which a whole
+    /// gains or loses another part.
+    void takeItemEdits(const std::vector<std::string>& keys, bool ofOthers) {
+        const auto isOfOther = [&](const PlanEdit& edit) {
+            const bool isOfPart = edit.kind == Kind::ListGains || edit.kind == Kind::ListLoses;
+            return isOfPart && edit.object->sort() == Sort::Item && edit.object->id() != keys.front() &&
+                   std::find(keys.begin(), keys.end(), keyOf(*edit.other)) == keys.end();
+        };
+        for (const std::string& key : keys) {
+            const auto found = byItem_.find(key);
+            for (const std::size_t number : found == byItem_.end() ? Numbers() : found->second) {
+                if (found_.size() <= kMostEdits && isOfOther(edits_[number]) == ofOthers) {
+                    take(number);
+                }
+            }
         }
     }
 

@@ -19,13 +19,18 @@ KeyedPlan::KeyedPlan(Plan& plan) : plan_(plan) {
     }
     walkPlan(plan, [this](const FlowObject& object, const ModelObject*) { objects_.push_back(&object); });
     for (const ModelObject* object : objects_) {
-        byKey_.emplace(keyOf(*object), object);
+        if (object->id().empty()) {
+            withoutId_.emplace(keyOf(*object), object);
+        }
     }
 }
 
 const ModelObject* KeyedPlan::find(const std::string& key) const {
-    const auto found = byKey_.find(key);
-    return found == byKey_.end() ? nullptr : found->second;
+    if (const ModelObject* const object = plan_.find(key)) {
+        return object;
+    }
+    const auto found = withoutId_.find(key);
+    return found == withoutId_.end() ? nullptr : found->second;
 }
 
 namespace {
@@ -81,6 +86,26 @@ std::vector<std::string> keysOf(const ObjectList* list) {
         }
     }
     return keys;
+}
+
+std::vector<const Link*> linksOf(const KeyedPlan& keyed) {
+    std::vector<const Link*> links;
+    links.reserve(keyed.plan().links().size());
+    for (const Link& link : keyed.plan().links()) {
+        links.push_back(&link);
+    }
+    return links;
+}
+
+/// Whether two lists name the same items in the same order.
+bool isSameList(const ObjectList* old, const ObjectList* now) {
+    static const std::vector<ModelObject*> none;
+    const auto& was = old ? old->entries() : none;
+    const auto& is = now ? now->entries() : none;
+    return std::equal(was.begin(), was.end(), is.begin(), is.end(),
+                      [](const ModelObject* left, const ModelObject* right) {
+                          return left->sort() == right->sort() && left->id() == right->id();
+                      });
 }
 
 class Edits {
@@ -152,11 +177,11 @@ private:
         for (const Relation relation : kRelations) {
             const ObjectList* const oldList = old ? listOf(*old, relation) : nullptr;
             const ObjectList* const list = now ? listOf(*now, relation) : nullptr;
-            const std::vector<std::string> was = keysOf(oldList);
-            const std::vector<std::string> is = keysOf(list);
-            if (relation == Relation::Joins || was == is) {
+            if (relation == Relation::Joins || isSameList(oldList, list)) {
                 continue;
             }
+            const std::vector<std::string> was = keysOf(oldList);
+            const std::vector<std::string> is = keysOf(list);
             Counts<std::string, const ModelObject*> counts;
             count(list, 1, counts);
             count(oldList, -1, counts);
@@ -180,30 +205,43 @@ private:
         }
     }
 
+    /// Links between the same two ends, first and last, are the same on both sides and have no part in any edit.
     void compareLinks() {
         using Ends = std::pair<std::string, std::string>;
+        const auto endsOf = [](const Link& link) {
+            return Ends(keyOf(*link.from), keyOf(*link.to));
+        };
+        const auto isSame = [&](const Link* left, const Link* right) {
+            return endsOf(*left) == endsOf(*right);
+        };
+        const std::vector<const Link*> old = linksOf(before_);
+        const std::vector<const Link*> now = linksOf(after_);
+        const auto first = std::mismatch(old.begin(), old.end(), now.begin(), now.end(), isSame);
+        auto oldEnd = old.end();
+        auto nowEnd = now.end();
+        while (oldEnd != first.first && nowEnd != first.second && isSame(*std::prev(oldEnd), *std::prev(nowEnd))) {
+            --oldEnd;
+            --nowEnd;
+        }
         Counts<Ends, const Link*> counts;
-        const auto read = [&](const Plan& plan, long step) {
+        const auto read = [&](auto link, auto end, long step) {
             std::vector<Ends> all;
-            for (const Link& link : plan.links()) {
-                all.emplace_back(keyOf(*link.from), keyOf(*link.to));
-                counts.try_emplace(all.back(), 0, &link).first->second.first += step;
+            for (; link != end; ++link) {
+                all.push_back(endsOf(**link));
+                counts.try_emplace(all.back(), 0, *link).first->second.first += step;
             }
             return all;
         };
-        const std::vector<Ends> is = read(after_.plan(), 1);
-        const std::vector<Ends> was = read(before_.plan(), -1);
-        if (was == is) {
-            return;
-        }
+        const std::vector<Ends> is = read(first.second, nowEnd, 1);
+        const std::vector<Ends> was = read(first.first, oldEnd, -1);
         for (const auto& [ends, difference] : counts) {
             if (difference.first != 0) {
                 add(difference.first > 0 ? Kind::LinkAdded : Kind::LinkGone, *difference.second->from,
                     difference.second->to);
             }
         }
-        if (const std::optional<Ends> first = firstElsewhere(was, is)) {
-            const Link& link = *counts.at(*first).second;
+        if (const std::optional<Ends> elsewhere = firstElsewhere(was, is)) {
+            const Link& link = *counts.at(*elsewhere).second;
             add(Kind::LinksReordered, *link.from, link.to);
         }
     }

@@ -26,7 +26,7 @@ public:
 private:
     const Plan& plan_;
     std::vector<const ModelObject*> objects_;
-    std::unordered_map<std::string, const ModelObject*> byKey_;
+    std::unordered_map<std::string, const ModelObject*> withoutId_; // by key
 };
 
 /// All edits that lead from one plan to the other, as far as a bill can depend on them. Names and shapes play no part.

@@ -106,9 +106,10 @@ const Case kCases[] = {
     {"MovedIntoAnAssembly", "S1: +A[Q] +P | S2", "S1: +A[Q P] +P | S2", "moved P/A<top (list-gains A.holds P)"},
     {"MovedIntoWhatIsNew", "S1: +P +Q | S2", "S1: +P +Q | S2: >A[B[P] Q]",
      "added A/top*2 (added A; list-gains A.holds B; list-gains A.holds Q; list-gains S2.outputs A) | "
-     "moved P/B<top (list-gains B.holds P; list-gains A.holds B; added B; added A; list-gains A.holds Q; "
-     "list-gains S2.outputs A) | "
-     "moved Q/A<top (list-gains A.holds Q; added A; list-gains A.holds B; list-gains S2.outputs A)"},
+     "moved P/B<top (list-gains B.holds P; list-gains A.holds B; added B; added A; list-gains S2.outputs A) | "
+     "moved Q/A<top (list-gains A.holds Q; added A; list-gains S2.outputs A)"},
+    {"TwoPartsOfOneWhole", "S1: +A[P] | S2", "S1: +A[Q] | S2",
+     "added Q/A (list-gains A.holds Q; added Q) | gone P/A (list-loses A.holds P; gone P)"},
     {"MovedOutOfWhatIsGone", "S1: +A[P(Q)] | S2", "S1: +P(Q) .A[] | S2",
      "gone A/top (list-loses A.holds P; list-loses S1.first_assigned A) | "
      "moved P/top<A (list-loses A.holds P; list-gains S1.first_assigned P; list-loses S1.first_assigned A)"},
