@@ -1,5 +1,9 @@
 #include "planner/model/Item.h"
 
+#include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
+
+#include <algorithm>
+
 namespace planner {
 
 const Geometry& Item::geometry() const {
@@ -67,6 +71,11 @@ QORStatus Assembly::GetAssignedProducts(QORListValQORBaseUnknown_var*& oProducts
     }
     oProducts = newHandles(holds);
     return QOR_OK;
+}
+
+bool Fastener::isOfKnownType() const {
+    return std::any_of(VXMFastenerTypes.begin(), VXMFastenerTypes.end(),
+                       [this](const VXMFastenerType& known) { return type == known.name; });
 }
 
 QORStatus Fastener::QueryInterface(const QORInterfaceID& iInterface, void** oInterface) {

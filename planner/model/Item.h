@@ -108,6 +108,9 @@ public:
     /// Process type, any text; empty when the file gives none.
     std::optional<std::string> type;
 
+    /// Whether the type is one of those that a bill can show.
+    bool isOfKnownType() const;
+
     /// Whether it counts as assigned; without a value it does.
     std::optional<bool> assigned;
 

@@ -63,6 +63,14 @@ const ObjectList* listOf(const ModelObject& owner, Relation relation) {
     return listOf(const_cast<ModelObject&>(owner), relation);
 }
 
+const ObjectList* structureOf(const ModelObject& item) {
+    if (item.sort() != Sort::Item) {
+        return nullptr;
+    }
+    const bool isAssembly = static_cast<const Item&>(item).kind() == ItemKind::Assembly;
+    return listOf(item, isAssembly ? Relation::Holds : Relation::Children);
+}
+
 Wanted wantedIn(Relation relation, Sort owner) {
     if (relation != Relation::Children) {
         return Wanted::AnyItem;

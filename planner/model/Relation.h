@@ -34,6 +34,9 @@ constexpr std::string_view relationText(Relation relation) {
 ObjectList* listOf(ModelObject& owner, Relation relation);
 const ObjectList* listOf(const ModelObject& owner, Relation relation);
 
+/// What a bill shows below an item: what an assembly holds, the children of any other. Null for what has no such list.
+const ObjectList* structureOf(const ModelObject& item);
+
 /// What a reference may name.
 enum class Wanted : std::uint8_t {
     AnyItem,

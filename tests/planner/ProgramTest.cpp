@@ -67,6 +67,8 @@ const Case kGood[] = {
     first assigned      1  taken away by the removal in b
   Line / b
     removed             1  takes away the assignment in a
+  robot
+    put out             0  outside of what the bill is of: in robot
 )"},
     {"Kits", "kits % --by step", R"(Line / a
   brings in

@@ -32,11 +32,6 @@ std::string letters(std::string_view name) {
     return plain;
 }
 
-bool isKnownType(const std::string& type) {
-    return std::any_of(VXMFastenerTypes.begin(), VXMFastenerTypes.end(),
-                       [&](const VXMFastenerType& each) { return type == each.name; });
-}
-
 /// The type that is meant, where only case, blanks or hyphens differ; else all of them.
 std::string typeAdvice(const std::string& type) {
     std::string all;
@@ -52,8 +47,8 @@ std::string typeAdvice(const std::string& type) {
 void checkTypes(CheckWork& work) {
     for (const Item* item : work.plan.items) {
         const auto* const fastener = dynamic_cast<const Fastener*>(item);
-        const std::string type = fastener ? fastener->type.value_or("") : std::string();
-        if (fastener && !isKnownType(type)) {
+        if (fastener && !fastener->isOfKnownType()) {
+            const std::string type = fastener->type.value_or("");
             work.add(CheckCode::UnknownFastenerType, *fastener,
                      called(*fastener) + (fastener->type ? " is of the type " + inQuotes(type) + ", which no bill shows"
                                                          : std::string(" has no type, so no bill shows it")),

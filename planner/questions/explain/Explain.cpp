@@ -1,6 +1,7 @@
 // The mentions of an item are gathered from the plan, those of what it is a part of from the record; then each
 // occurrence of the record says what became of one mention. A mention that has none says why by itself: its step isn't
-// reached, its list doesn't count, or it is a fastener that isn't chosen.
+// reached, its list doesn't count, or it is a fastener that isn't chosen. Lists that don't count have no part in the
+// record, so what they hold in structures is gathered from the plan as well.
 
 #include "planner/questions/explain/Explain.h"
 
@@ -22,7 +23,7 @@ constexpr std::array<std::string_view, 6> kRoleTexts{"first assigned", "assigned
 constexpr std::array<std::string_view, kOutcomes> kOutcomeWords{
     "stands",      "taken-away",      "takes-away",      "nothing-to-take-away", "first-assigned-in",
     "assigned-in", "named-in",        "went-with-whole", "only-worked-on",       "left-out-in-station",
-    "not-reached", "hidden-fastener", "no-fastener",     "adds-nothing"};
+    "not-reached", "hidden-fastener", "no-fastener",     "outside-root",         "adds-nothing"};
 
 bool isFastener(const ModelObject& object) {
     return object.sort() == Sort::Item && static_cast<const Item&>(object).kind() == ItemKind::Fastener;
@@ -36,6 +37,15 @@ const ModelObject* stationAround(const ModelObject& step) {
         }
     }
     return nullptr;
+}
+
+/// The process or resource at the very top of what a step stands in.
+const ModelObject* outermostAround(const ModelObject& step) {
+    const ModelObject* top = &step;
+    while (const ModelObject* const above = static_cast<const FlowObject*>(top)->container()) {
+        top = above;
+    }
+    return top;
 }
 
 /// Whether a fastener is among those that a step sets in the bill.
@@ -62,6 +72,7 @@ public:
     std::vector<Explanation> make() {
         placeSteps();
         gatherMentions();
+        gatherIdleWholes();
         gatherWholes();
         for (std::uint32_t place = 0; place < occurrences_.size(); ++place) {
             if (const auto found = wanted_.find(occurrences_[place].object); found != wanted_.end()) {
@@ -81,32 +92,44 @@ private:
     struct StepPlace {
         std::size_t order;       // in the flow; behind it for steps that aren't reached
         const ReachedStep* step; // null for those
+        bool isInRoot;
+    };
+
+    /// An item in a list that doesn't count, or in the structure of such an item.
+    struct Idle {
+        const ModelObject* item;
+        const ModelObject* step;
+        Role role;
     };
 
     void placeSteps() {
+        const auto place = [this](const FlowObject& step, const ReachedStep* reached, bool isInRoot) {
+            if (places_.emplace(&step, StepPlace{places_.size(), reached, isInRoot}).second) {
+                steps_.push_back(&step);
+            }
+        };
         for (const ReachedStep& step : bill_.flow().steps()) {
-            places_.emplace(step.object, StepPlace{places_.size(), &step});
+            place(*step.object, &step, true);
         }
         auto& root = static_cast<FlowObject&>(const_cast<ModelObject&>(bill_.root())); // walked, not changed
-        walkContents(root, [&](const FlowObject& object, const ModelObject*) {
-            places_.emplace(&object, StepPlace{places_.size(), nullptr});
-        });
+        walkContents(root, [&](const FlowObject& step, const ModelObject*) { place(step, nullptr, true); });
+        walkPlan(const_cast<Plan&>(plan_),
+                 [&](const FlowObject& step, const ModelObject*) { place(step, nullptr, false); });
     }
 
     void gatherMentions() {
-        for (const auto& [step, place] : places_) {
-            const auto& flowStep = static_cast<const FlowObject&>(*step);
+        for (const FlowObject* step : steps_) {
             if (step->sort() == Sort::Behaviour) {
                 continue; // its lists are those of its resource
             }
-            takeList(flowStep, Relation::FirstAssigned, Role::FirstAssigned);
-            takeList(flowStep, Relation::Outputs, Role::PutOut);
+            takeList(*step, Relation::FirstAssigned, Role::FirstAssigned);
+            takeList(*step, Relation::Outputs, Role::PutOut);
             if (step->sort() == Sort::Activity) {
-                takeList(flowStep, Relation::Assigned, Role::Assigned);
-                takeList(flowStep, Relation::Removed, Role::Removed);
-                takeFurtherItems(static_cast<const Activity&>(flowStep));
+                takeList(*step, Relation::Assigned, Role::Assigned);
+                takeList(*step, Relation::Removed, Role::Removed);
+                takeFurtherItems(static_cast<const Activity&>(*step));
             } else {
-                takeFasteners(flowStep, listOfStep(flowStep, Relation::FirstAssigned), true);
+                takeFasteners(*step, listOfStep(*step, Relation::FirstAssigned), true);
             }
         }
     }
@@ -128,13 +151,24 @@ private:
     }
 
     void takeList(const FlowObject& step, Relation relation, Role role) {
-        if (const ObjectList* const list = listOfStep(step, relation)) {
-            for (const ModelObject* item : *list) {
-                if (Mention* const found = mention(*item, step, role)) {
-                    ++found->entries;
-                }
+        const ObjectList* const list = listOfStep(step, relation);
+        if (!list || list->empty()) {
+            return;
+        }
+        const bool isIdle = !counts(places_.at(&step), role);
+        for (const ModelObject* item : *list) {
+            if (Mention* const found = mention(*item, step, role)) {
+                ++found->entries;
+            }
+            if (isIdle && structureOf(*item)) {
+                idle_.push_back({item, &step, role});
             }
         }
+    }
+
+    /// Whether what a step lists in that role counts in the bill.
+    bool counts(const StepPlace& place, Role role) const {
+        return place.step && bill_.flow().counts(*place.step, relationOf(role));
     }
 
     void takeFurtherItems(const Activity& step) {
@@ -158,6 +192,28 @@ private:
             Mention* const found = isFastener(*item) ? mention(*item, step, Role::Joined) : nullptr;
             if (found) {
                 found->entries = eachEntry ? found->entries + 1 : 1;
+            }
+        }
+    }
+
+    /// Takes the mentions of what stands in the structure of an item that is listed where it doesn't count.
+    void gatherIdleWholes() {
+        std::unordered_map<const ModelObject*, std::vector<std::pair<const ModelObject*, Role>>> lists; // by part
+        while (!idle_.empty()) {
+            const Idle whole = idle_.back();
+            idle_.pop_back();
+            const ObjectList* const parts = structureOf(*whole.item);
+            for (const ModelObject* part : parts ? parts->entries() : std::vector<ModelObject*>()) {
+                auto& known = lists[part];
+                const std::pair list(whole.step, whole.role);
+                if (known.size() == kMostIdleLists || std::find(known.begin(), known.end(), list) != known.end()) {
+                    continue;
+                }
+                known.push_back(list);
+                if (const auto found = wanted_.find(part); found != wanted_.end()) {
+                    mentionOf(found->second, *whole.step, whole.role, whole.item);
+                }
+                idle_.push_back({part, whole.step, whole.role});
             }
         }
     }
@@ -271,10 +327,13 @@ private:
             return {Outcome::NoFastener};
         }
         const StepPlace& place = places_.at(mention.step);
+        if (!place.isInRoot) {
+            return {Outcome::OutsideRoot, 0, outermostAround(*mention.step)};
+        }
         if (!place.step) {
             return {Outcome::NotReached};
         }
-        if (!bill_.flow().counts(*place.step, relationOf(mention.role))) {
+        if (!counts(place, mention.role)) {
             return {Outcome::LeftOutInStation, 0, stationAround(*mention.step)};
         }
         const bool isHidden = mention.role == Role::Joined && !setsFastener(*place.step->node, *explanation.item);
@@ -293,8 +352,10 @@ private:
     const std::vector<Occurrence>& occurrences_;
     std::unordered_map<const ModelObject*, std::size_t> wanted_;
     std::vector<Explanation> made_;
+    std::vector<const FlowObject*> steps_; // of the plan, in the order of their places
     std::unordered_map<const ModelObject*, StepPlace> places_;
     std::map<Key, std::size_t> mentions_;
+    std::vector<Idle> idle_;
 };
 
 } // namespace

@@ -20,10 +20,11 @@ enum class Outcome : std::uint8_t {
     NamedIn,           ///< dropped: named in `step`, which the bill comes to first
     WentWithWhole,     ///< part of something that was dropped, being named in `step`, which the bill comes to first
     OnlyWorkedOn,      ///< assigned, but never brought in
-    LeftOutInStation,  ///< inside the station `step`, and no loading activity brings it
+    LeftOutInStation,  ///< inside the station `step`, where only what loading activities bring in counts
     NotReached,        ///< no way leads from its step to the end of the flow
     HiddenFastener,    ///< by the choice of fasteners
     NoFastener,        ///< among the further items of a step, of which a bill shows fasteners only
+    OutsideRoot,       ///< the step stands outside of what the bill is of, in `step`
     AddsNothing        ///< not followed: where paths multiply, other occurrences of the item decide
 };
 inline constexpr std::size_t kOutcomes = static_cast<std::size_t>(Outcome::AddsNothing) + 1;
@@ -47,6 +48,9 @@ struct Result {
     std::vector<std::uint32_t> rows = {}; ///< of those that stand
 };
 
+/// The most lists that are told of those that don't count and have an item only as part of something.
+inline constexpr std::size_t kMostIdleLists = 100;
+
 /// A step that lists an item, or something that the item is a part of.
 struct Mention {
     const ModelObject* step;
@@ -62,7 +66,7 @@ struct Explanation {
     const ModelObject* item;
     std::vector<std::uint32_t> rows;        ///< where it stands in the bill, from 0 in the order of the document
     std::vector<const ModelObject*> wholes; ///< the items whose structure it is directly a part of
-    std::vector<Mention> mentions;          ///< in the order of the flow; steps on no way to its end come last
+    std::vector<Mention> mentions;          ///< in the order of the flow; steps off it come last
 };
 
 /// Explains some items of a plan, in their order. Costs one look at the plan and one at the record.

@@ -44,7 +44,7 @@ void putResult(JsonWriter& json, const Result& result) {
     if (result.step) {
         json.key("step");
         putObject(json, *result.step);
-        if (result.outcome != Outcome::LeftOutInStation) {
+        if (result.outcome != Outcome::LeftOutInStation && result.outcome != Outcome::OutsideRoot) {
             json.member("relation", roleWord(result.role));
             json.member("order", result.order > 0 ? "later" : result.order < 0 ? "earlier" : "same");
         }

@@ -27,6 +27,7 @@ Style styleOf(Outcome outcome) {
         return Style::Warning;
     case Outcome::HiddenFastener:
     case Outcome::NoFastener:
+    case Outcome::OutsideRoot:
         return Style::Plain;
     default:
         return Style::Gone;
@@ -48,6 +49,7 @@ constexpr std::array<std::string_view, kOutcomes> kPhrases{
     "never reached: no way leads from the step to the end of the flow",
     "hidden: ",
     "not a fastener, and of the further items of a step only fasteners are shown",
+    "outside of what the bill is of: in ",
     "adds nothing: other occurrences of the item decide"};
 
 /// What a person should know of the place of the step that decided.
@@ -56,7 +58,7 @@ std::string_view orderPhrase(const Result& result) {
     const bool earlier = result.order < 0;
     switch (result.outcome) {
     case Outcome::LeftOutInStation:
-        return ", and no loading activity brings it";
+        return ", where only what loading activities bring in counts";
     case Outcome::TakenAway:
         return earlier ? ", which comes before it" : "";
     case Outcome::TakesAway:
@@ -71,6 +73,9 @@ std::string_view orderPhrase(const Result& result) {
 
 std::string_view whyHidden(const RecordedBill& bill, const ModelObject& item) {
     const auto& fastener = static_cast<const Fastener&>(item);
+    if (!fastener.isOfKnownType()) {
+        return fastener.type ? "a fastener of a type that no bill shows" : "a fastener without a type";
+    }
     if (bill.showsAssignedFastenersOnly() && !fastener.assigned.value_or(true)) {
         return "a fastener that isn't assigned";
     }
@@ -126,8 +131,11 @@ StyledText relationText(const Mention& mention) {
 
 void writeMentions(const RecordedBill& bill, const Explanation& explanation, TextOutput& output) {
     TextTable table({{"Relation"}, {"Paths", TextTable::Side::Right}, {"What became of it"}});
+    const ModelObject* step = nullptr;
     for (const Mention& mention : explanation.mentions) {
-        table.addHeading(pathAndId(*mention.step));
+        if (std::exchange(step, mention.step) != mention.step) {
+            table.addHeading(pathAndId(*mention.step));
+        }
         bool first = true;
         for (const Result& result : mention.results) {
             StyledText what;
@@ -161,7 +169,7 @@ StyledText resultText(const RecordedBill& bill, const ModelObject& item, const M
     if (result.with) {
         text.add(nameAndId(*result.with)).add(", named again in ");
     }
-    if (result.step == mention.step) {
+    if (result.step == mention.step && result.outcome != Outcome::OutsideRoot) {
         text.add("the same step");
     } else {
         text.add(nameAndId(*result.step));

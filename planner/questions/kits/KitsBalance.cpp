@@ -79,8 +79,9 @@ std::vector<std::string> reasonsFor(const RecordedBill& bill, const Explanation&
     for (const Mention& mention : explanation.mentions) {
         for (const Result& result : mention.results) {
             const bool stands = result.outcome == Outcome::Stands;
-            const bool tells = isMissing ? countsInKits(mention) && !stands
-                                         : stands && (!countsInKits(mention) || result.rows.size() > 1);
+            const bool isInKits = countsInKits(mention) && result.outcome != Outcome::OutsideRoot;
+            const bool tells =
+                isMissing ? isInKits && !stands : stands && (!countsInKits(mention) || result.rows.size() > 1);
             if (tells && reasons.size() < kReasons) {
                 reasons.push_back(reasonText(bill, *explanation.item, mention, result));
             } else if (tells) {

@@ -19,15 +19,6 @@ namespace {
 /// Steps on the ways through a component above which what is in it is countless.
 constexpr std::size_t kMostSteps = 100'000;
 
-/// What an item is made of; null or empty for none.
-const ObjectList* partsIn(const ModelObject& whole) {
-    if (whole.sort() != Sort::Item) {
-        return nullptr;
-    }
-    const bool isAssembly = static_cast<const Item&>(whole).kind() == ItemKind::Assembly;
-    return listOf(whole, isAssembly ? Relation::Holds : Relation::Children);
-}
-
 class PartCounter {
 public:
     explicit PartCounter(const std::vector<KitItem>& wholes) {
@@ -35,7 +26,7 @@ public:
             addTo(opened_[vertexOf(*whole.item)], whole.number);
         }
         for (std::size_t vertex = 0; vertex < items_.size(); ++vertex) {
-            if (const ObjectList* const parts = partsIn(*items_[vertex].item)) {
+            if (const ObjectList* const parts = structureOf(*items_[vertex].item)) {
                 for (const ModelObject* part : *parts) {
                     graph_.targets.push_back(vertexOf(*part));
                 }
@@ -142,7 +133,7 @@ public:
 
     /// Gives whether the walk may go on.
     bool open(const ModelObject& whole, int level) {
-        const ObjectList* const parts = partsIn(whole);
+        const ObjectList* const parts = structureOf(whole);
         if (!parts || parts->empty() || !onPath_.insert(&whole).second) {
             return true;
         }

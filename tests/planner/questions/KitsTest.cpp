@@ -55,8 +55,8 @@ R / S3
   Kits  Bill  Item  Reason
      1     0  J     first assigned in T1: taken away by the removal in S2
      2     1  P     first assigned in T1: dropped: named again in S3, as part of B, which comes later
-     1     0  w     fastened in T2: left out: inside S1, and no loading activity brings it
-     1     0  v     fastened in T2: left out: inside S1, and no loading activity brings it
+     1     0  w     fastened in T2: left out: inside S1, where only what loading activities bring in counts
+     1     0  v     fastened in T2: left out: inside S1, where only what loading activities bring in counts
 )");
 }
 
