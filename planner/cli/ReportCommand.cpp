@@ -13,20 +13,23 @@ namespace planner {
 
 namespace {
 
-void addBill(const Subject& subject, Report& report) {
-    const FastenerSettings settings;
-    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(subject.root);
-    const DOM_Document document = generator->GetBom(0);
-    report.bill = readBill(document, generator->GetPreviewObjects());
-    report.remark = remarkOnBill(*subject.plan, *subject.root, *generator, report.bill.empty());
-    report.findings = checkPlan(*subject.plan, *subject.root, *generator, report.bill);
-}
-
-void addKits(const Subject& subject, Report& report) {
+/// Bill, findings and kits, from one computation where the record that kits need can be had.
+void addAnswers(const Subject& subject, Report& report) {
+    std::unique_ptr<RecordedBill> recorded;
     try {
-        report.kits = kitsOf(*subject.plan, RecordedBill(*subject.root), KitsBy::Station);
+        recorded = std::make_unique<RecordedBill>(*subject.root);
     } catch (const TooManyOccurrences& error) {
         report.kitsNote = error.what();
+    }
+    const FastenerSettings settings;
+    const std::unique_ptr<VXMBomGenerator> unrecorded = recorded ? nullptr : VXMMakeBomGenerator(subject.root);
+    VXMBomGenerator& generator = recorded ? recorded->generator() : *unrecorded;
+    const DOM_Document document = generator.GetBom(0);
+    report.bill = readBill(document, generator.GetPreviewObjects());
+    report.remark = remarkOnBill(*subject.plan, *subject.root, generator, report.bill.empty());
+    report.findings = checkPlan(*subject.plan, *subject.root, generator, report.bill);
+    if (recorded) {
+        report.kits = kitsOf(*subject.plan, *recorded, KitsBy::Station);
     }
 }
 
@@ -50,8 +53,7 @@ Status runReport(const Arguments& arguments) {
         return Status::Bad;
     }
     Report report{.root = *subject.root, .file = sourceName(arguments.text("PLAN"))};
-    addBill(subject, report);
-    addKits(subject, report);
+    addAnswers(subject, report);
     addFlow(static_cast<FlowObject&>(*subject.root), report);
     report.places = placesOfObjects(text, idsOf(report.findings));
     writeReport(report, output->sink());
