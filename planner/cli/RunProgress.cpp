@@ -59,7 +59,7 @@ void paint(int /*signal*/) {
     line.add(" … ");
     if (stepsDone > 0) {
         line.add(stepsDone);
-        line.add(" steps, ");
+        line.add(" steps of work, ");
     }
     line.add(ticks / kPaintsPerSecond);
     line.add(" s");

@@ -52,12 +52,24 @@ const ModelObject* stepAround(const ModelObject& step) {
     return above;
 }
 
+/// What to do about a step that is off the flow. Where nothing leads to the last step of a process, none is on it.
+std::string wayAdvice(const CheckWork& work) {
+    const auto* const process = work.root.sort() == Sort::Activity ? static_cast<const Activity*>(&work.root) : nullptr;
+    const Activity* const last = process && !process->children.empty() ? process->children.entries().back() : nullptr;
+    if (!last || work.flow.isOnWay(*last) || !last->linksIn().empty()) {
+        return "link it to a step that is on a way there, or take it out: as it is it adds nothing to the bill";
+    }
+    return "no link leads to " + called(*last) + ", which stands last in " + called(*process) +
+           ": link steps to it, or have one stand last that others are linked to; as it is nothing is on a way there";
+}
+
 /// A step that is off the flow is told with those inside it that are off the flow as well.
 void checkWays(CheckWork& work) {
     const ModelObject* const end = work.flow.empty() ? &work.root : work.flow.end().object;
     std::vector<std::size_t> inside;                              // by what is told
     std::unordered_map<const ModelObject*, std::size_t> toldWith; // steps that are off the flow
     const std::size_t first = work.findings.size();
+    const std::string advice = wayAdvice(work);
     for (const ModelObject* step : stepsFrom(work.root)) {
         if (step == &work.root || work.flow.isOnWay(*step)) {
             continue;
@@ -71,8 +83,7 @@ void checkWays(CheckWork& work) {
         toldWith.emplace(step, inside.size());
         inside.push_back(0);
         work.add(CheckCode::StepOffFlow, *step,
-                 "no way leads from " + called(*step) + " to the end of the flow, " + called(*end),
-                 "link it to a step that is on a way there, or take it out: as it is it adds nothing to the bill");
+                 "no way leads from " + called(*step) + " to the end of the flow, " + called(*end), advice);
     }
     for (std::size_t i = 0; i < inside.size(); ++i) {
         work.findings[first + i].message +=

@@ -114,6 +114,14 @@ constexpr const char* kCell =
       {"id": "b", "behaviour": {"outputs": ["q"]}}, {"id": "c", "behaviour": {}}]}],
     "links": [["does", "b"], ["b", "a"]]})";
 
+TEST(CheckOfWays, NamesTheLastStepWhereNothingLeadsToIt) {
+    const auto plan = draw("S1: +P | S2 , S3");
+    const std::vector<Finding> findings = checkPlan(*plan, *plan->process());
+    EXPECT_EQ(textOf(findings), "step-off-flow S1 | step-off-flow S2 | step-off-flow S3");
+    EXPECT_TRUE(findings.front().advice.starts_with("no link leads to \"S3\", which stands last in \"R\":"))
+        << findings.front().advice;
+}
+
 TEST(CheckOfResources, LooksAtTheRootThatIsAsked) {
     const auto plan = plantext::read(kCell);
     EXPECT_EQ(textOf(checkPlan(*plan, *plan->process())), "loop-in-links a: a b | process-without-steps : cell");
