@@ -13,6 +13,7 @@ namespace planner::desktop {
 namespace {
 
 constexpr int kShownRows = 5;
+constexpr int kIcon = 16;
 
 } // namespace
 
@@ -20,6 +21,7 @@ ObjectRows::ObjectRows(Form& form, const QString& removeText, std::function<Obje
     : QListWidget(form.rows.parentWidget()), objects_(std::move(objects)), remove_(std::move(remove)) {
     setSizeAdjustPolicy(AdjustToContents);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setIconSize({kIcon, kIcon});
     auto* const taking = new QAction(icon("remove"), removeText, this);
     taking->setShortcut(QKeySequence::Delete);
     taking->setShortcutContext(Qt::WidgetShortcut);
@@ -43,7 +45,7 @@ void ObjectRows::read() {
         none->setFlags(Qt::NoItemFlags);
         addItem(none);
     }
-    const int height = std::max(sizeHintForRow(0), fontMetrics().height());
+    const int height = std::max(sizeHintForRow(0), fontMetrics().height() + 4); // with a row of text alone
     setFixedHeight(std::min(count(), kShownRows) * height + 2 * frameWidth());
 }
 

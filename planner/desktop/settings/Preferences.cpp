@@ -49,6 +49,7 @@ QPalette lightPalette() {
     palette.setColor(QPalette::PlaceholderText, faint);
     palette.setColor(QPalette::ToolTipBase, QColor(0xfd, 0xf6, 0xd8));
     palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::Link, QColor(0x1f, 0x66, 0xb0));
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faint);
     }
