@@ -7,13 +7,16 @@
 
 #pragma once
 
+#include "QORPlatform/framework/QORLargeMemory.h"
+
+#include <algorithm>
 #include <cstddef>
-#include <memory>
 #include <new>
 #include <vector>
 
-/// Pieces of one size for all that there is of one class. Chunks go back to the heap when no piece is out. Like the
-/// rest of the library it belongs to one thread. The sanitizers, who watch over the heap, get each piece from there.
+/// Pieces of one size for all that there is of one class, in chunks that grow with their number. When no piece is out,
+/// all chunks but the first and smallest go back. Like the rest of the library it belongs to one thread. The
+/// sanitizers, who watch over the heap, get each piece from there.
 template <std::size_t kSize>
 class VXMPool {
 public:
@@ -26,11 +29,15 @@ public:
 #ifdef __SANITIZE_ADDRESS__
         return ::operator new(kSize);
 #else
-        if (!_free) {
-            AddChunk();
+        Piece* piece = _free;
+        if (piece) {
+            _free = piece->next;
+        } else {
+            if (_fresh == _end) {
+                AddChunk();
+            }
+            piece = _fresh++;
         }
-        Piece* const piece = _free;
-        _free = piece->next;
         ++_out;
         return piece;
 #endif
@@ -44,8 +51,9 @@ public:
         piece->next = _free;
         _free = piece;
         if (--_out == 0) {
-            _chunks.clear();
+            _chunks.erase(_chunks.begin() + 1, _chunks.end());
             _free = nullptr;
+            BeginChunk();
         }
 #endif
     }
@@ -55,20 +63,26 @@ private:
         Piece* next;
         alignas(std::max_align_t) std::byte bytes[kSize];
     };
-    static constexpr std::size_t kInChunk = (std::size_t{1} << 16) / sizeof(Piece);
+    static constexpr std::size_t kFirstChunk = std::size_t{1} << 16;
+    static constexpr std::size_t kLargestChunk = std::size_t{1} << 26;
 
     VXMPool() = default;
 
+    /// As large as all before it together, so that a chunk is half used at least.
     void AddChunk() {
-        _chunks.push_back(std::make_unique<Piece[]>(kInChunk));
-        for (std::size_t place = kInChunk; place > 0; --place) {
-            Piece& piece = _chunks.back()[place - 1];
-            piece.next = _free;
-            _free = &piece;
-        }
+        const std::size_t size = _chunks.size() < 2 ? kFirstChunk : 2 * _chunks.back().GetSize();
+        _chunks.emplace_back(std::min(size, kLargestChunk));
+        BeginChunk();
     }
 
-    std::vector<std::unique_ptr<Piece[]>> _chunks;
+    void BeginChunk() {
+        _fresh = reinterpret_cast<Piece*>(_chunks.back().GetBegin());
+        _end = _fresh + _chunks.back().GetSize() / sizeof(Piece);
+    }
+
+    std::vector<QORLargeMemory> _chunks;
     Piece* _free = nullptr;
+    Piece* _fresh = nullptr; // the first piece of the latest chunk that nobody has had yet
+    Piece* _end = nullptr;
     std::size_t _out = 0;
 };

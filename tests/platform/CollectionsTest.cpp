@@ -1,10 +1,12 @@
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
 #include "QORPlatform/collections/QORListValQORUnicodeString.h"
 #include "QORPlatform/collections/QORRawCollPV.h"
+#include "QORPlatform/framework/QORLargeMemory.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <new>
 #include <random>
 #include <string>
 #include <vector>
@@ -39,6 +41,24 @@ TEST(RawCollection, RemovesTheFirstOfAValueAndNothingOutside) {
     list.RemoveAll();
     EXPECT_EQ(list.Size(), 0);
     EXPECT_EQ(QORRawCollPV()[1], nullptr);
+}
+
+TEST(LargeMemory, HoldsAnArrayThatGrowsBeyondAHugePage) {
+    std::vector<std::size_t, QORLargeAllocator<std::size_t>> numbers;
+    for (std::size_t number = 0; number < QORLargeMemory::kHugePage; ++number) {
+        numbers.push_back(number);
+    }
+    for (std::size_t number = 0; number < numbers.size(); ++number) {
+        ASSERT_EQ(numbers[number], number);
+    }
+    QORLargeMemory block(QORLargeMemory::kHugePage + 1);
+    EXPECT_GT(block.GetSize(), QORLargeMemory::kHugePage);
+    *(block.GetEnd() - 1) = std::byte{1};
+    const QORLargeMemory taken(std::move(block));
+    EXPECT_EQ(*(taken.GetEnd() - 1), std::byte{1});
+#ifndef __SANITIZE_ADDRESS__ // which ends the process
+    EXPECT_THROW(QORLargeMemory(std::size_t{1} << 60U), std::bad_alloc);
+#endif
 }
 
 TEST(Few, EqualsAVector) {
