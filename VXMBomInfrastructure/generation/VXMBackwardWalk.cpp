@@ -24,16 +24,36 @@ void VXMBackwardWalk::Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& i
 }
 
 VXMBackwardWalk::Visit::Visit(VXMBackwardWalk& ioWalk, VXMFabFlowNode& iStep)
-    : _walk(ioWalk), _step(iStep), _number(ioWalk._numbers.NumberOf(iStep)),
+    : _walk(ioWalk), _step(&iStep), _number(ioWalk._numbers.NumberOf(iStep)),
       _thinned(std::exchange(ioWalk._next, std::nullopt)) {
-    if (_number >= static_cast<int>(_walk._isOnPath.size())) {
-        _walk._isOnPath.resize(_walk._numbers.Size(), false);
-    }
-    _walk._isOnPath[_number] = true;
+    Enter(_number);
 }
 
 VXMBackwardWalk::Visit::~Visit() {
     _walk._isOnPath[_number] = false;
+    for (const int number : _passed) {
+        _walk._isOnPath[number] = false;
+    }
+}
+
+void VXMBackwardWalk::Visit::Enter(int iNumber) {
+    if (iNumber >= static_cast<int>(_walk._isOnPath.size())) {
+        _walk._isOnPath.resize(_walk._numbers.Size(), false);
+    }
+    _walk._isOnPath[iNumber] = true;
+}
+
+bool VXMBackwardWalk::Visit::MovesOn(VXMFabFlowNode* iBefore) {
+    if (!iBefore || _thinned || _position < _step->GetNumberOfPredecessors()) {
+        return false;
+    }
+    const int number = _walk._numbers.NumberOf(*iBefore);
+    _passed.push_back(_number);
+    _number = number;
+    _step = iBefore;
+    _position = 0;
+    Enter(number);
+    return true;
 }
 
 bool VXMBackwardWalk::Visit::GoesOn(VXMFabFlowNode*& oBefore) {
@@ -42,8 +62,8 @@ bool VXMBackwardWalk::Visit::GoesOn(VXMFabFlowNode*& oBefore) {
         oBefore = _walk._next ? _walk._next->GetStep() : nullptr;
         return oBefore != nullptr;
     }
-    while (_position < _step.GetNumberOfPredecessors()) {
-        oBefore = _step.GetPredecessor(++_position);
+    while (_position < _step->GetNumberOfPredecessors()) {
+        oBefore = _step->GetPredecessor(++_position);
         if (!oBefore || _walk.Enters(*oBefore)) {
             return true;
         }

@@ -21,7 +21,8 @@ public:
     enum class Calls { Shown, Hidden };
     void Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild, Calls iCalls);
 
-    /// A step that the walk takes, for as long as this lives.
+    /// A step that the walk takes, for as long as this lives; and steps before it that the walk has moved on to without
+    /// coming back.
     class Visit {
     public:
         Visit(VXMBackwardWalk& ioWalk, VXMFabFlowNode& iStep);
@@ -36,11 +37,18 @@ public:
         /// Whether the walk goes on to a further step before this one, and to which; it may be null.
         bool GoesOn(VXMFabFlowNode*& oBefore);
 
+        /// Takes the step that GoesOn gave last, in the place of a visit of its own, when nothing comes after that
+        /// here: so a line of steps takes no stack. Gives whether it does.
+        bool MovesOn(VXMFabFlowNode* iBefore);
+
     private:
+        void Enter(int iNumber);
+
         VXMBackwardWalk& _walk;
-        VXMFabFlowNode& _step;
+        VXMFabFlowNode* _step;
         int _number;
         int _position = 0;
+        std::vector<int> _passed; // numbers of the steps from which the walk has moved on
         std::optional<VXMManyPaths::Visit> _thinned;
     };
 

@@ -64,28 +64,32 @@ private:
     bool _isFirst;
 };
 
-/// One call of a build: the step that it takes, and what both builds do alike with it.
+/// One call of a build: the step that it takes, then those that it moves on to, and what both builds do alike with
+/// them.
 class StepBuild {
 public:
     StepBuild(VXMBomGenerator& ioGenerator, VXMFabFlowNode& iStep, int iLevel, int iNumber, VXMStructure::Kind iKind)
-        : _generator(ioGenerator), _step(iStep), _level(iLevel), _number(iNumber), _kind(iKind),
+        : _generator(ioGenerator), _step(&iStep), _level(iLevel), _number(iNumber), _kind(iKind),
           _walk(ioGenerator, iStep, iKind), _visit(*_walk, iStep) {}
+
+    /// The level of the nodes that come from now on.
+    void SetLevel(int iLevel) { _level = iLevel; }
 
     /// Makes the nodes of one list under a parent, each but a fastener with its structure. Gives the first of them,
     /// null when the list is empty or doesn't count.
     VXMFabMBOMNode* TakeList(const VXMFlowList& iList, VXMFabMBOMNode& iParent) {
-        if (_generator.UseProducts(&_step, iList.type) == 0) {
+        if (_generator.UseProducts(_step, iList.type) == 0) {
             return nullptr;
         }
         VXMFabMBOMNode* first = nullptr;
-        const int count = (_step.*iList.count)();
+        const int count = (_step->*iList.count)();
         for (int position = 1; position <= count; ++position) {
             if (const std::uint64_t leftOut = _visit.LeavesOut()) {
                 _number = static_cast<int>(static_cast<unsigned>(_number) + static_cast<unsigned>(leftOut));
                 continue;
             }
-            VXMFabMBOMNode& node = VXMAttachNode(_generator, iParent, (_step.*iList.entry)(position), _level, _number++,
-                                                 iList.type, 1, &_step);
+            VXMFabMBOMNode& node = VXMAttachNode(_generator, iParent, (_step->*iList.entry)(position), _level,
+                                                 _number++, iList.type, 1, _step);
             if (iList.type != VXMFabMBOMNode::AT_Fastener) {
                 _number = VXMStructure(_generator, _kind).Expand(node, _level, _number);
             }
@@ -94,18 +98,24 @@ public:
         return first;
     }
 
-    /// Calls iCall(step, number) for each step before this one that the walk goes on to.
+    /// Calls iCall(step, number) for each step before this one that the walk goes on to. Moves on to the last of them
+    /// in the place of a call where it can, and gives whether it has.
     template <class Call>
-    void WalkOn(Call iCall) {
+    bool MovesOn(Call iCall) {
         VXMFabFlowNode* before = nullptr;
         while (_visit.GoesOn(before)) {
+            if (_visit.MovesOn(before)) {
+                _step = before;
+                return true;
+            }
             QORCallDeep([&] { iCall(before, _number); });
         }
+        return false;
     }
 
 private:
     VXMBomGenerator& _generator;
-    VXMFabFlowNode& _step;
+    VXMFabFlowNode* _step;
     int _level;
     int _number;
     VXMStructure::Kind _kind;
@@ -116,32 +126,45 @@ private:
 } // namespace
 
 void VXMBomGenerator::CreateMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber) {
-    VXMBomViewerTrace.TraPutLN("--> VXMBomGenerator::CreateMBOM ");
+    constexpr const char* kCall = "--> VXMBomGenerator::CreateMBOM ";
+    VXMBomViewerTrace.TraPutLN(kCall);
     if (!iFlowNode || !iParent) {
         return;
     }
     StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesAndProducts);
-    for (const VXMFlowList& list : kVXMFlowLists) {
-        VXMFabMBOMNode* const parent = list.type == VXMFabMBOMNode::AT_Create ? GetTopNode() : iParent;
-        if (parent) {
-            step.TakeList(list, *parent);
+    for (bool goesOn = true; goesOn;) {
+        for (const VXMFlowList& list : kVXMFlowLists) {
+            VXMFabMBOMNode* const parent = list.type == VXMFabMBOMNode::AT_Create ? GetTopNode() : iParent;
+            if (parent) {
+                step.TakeList(list, *parent);
+            }
+        }
+        goesOn = step.MovesOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateMBOM(iBefore, iParent, iNext); });
+        if (goesOn) {
+            VXMBomViewerTrace.TraPutLN(kCall);
         }
     }
-    step.WalkOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateMBOM(iBefore, iParent, iNext); });
 }
 
 void VXMBomGenerator::CreateOldMBOM(VXMFabFlowNode* iFlowNode, VXMFabMBOMNode* iParent, int iNumber) {
-    VXMBomViewerTrace.TraPutLN("--> VXMBomGenerator::CreateOldMBOM ");
+    constexpr const char* kCall = "--> VXMBomGenerator::CreateOldMBOM ";
+    VXMBomViewerTrace.TraPutLN(kCall);
     if (!iFlowNode || !iParent) {
         return;
     }
     StepBuild step(*this, *iFlowNode, iParent->GetLevel() + 1, iNumber, VXMStructure::Kind::AssembliesOnly);
     VXMFabMBOMNode* parent = iParent;
-    for (const VXMFlowList& list : kVXMFlowLists) {
-        VXMFabMBOMNode* const first = step.TakeList(list, *parent);
-        if (list.type == VXMFabMBOMNode::AT_Create && first) {
-            parent = first;
+    for (bool goesOn = true; goesOn;) {
+        for (const VXMFlowList& list : kVXMFlowLists) {
+            VXMFabMBOMNode* const first = step.TakeList(list, *parent);
+            if (list.type == VXMFabMBOMNode::AT_Create && first) {
+                parent = first;
+            }
+        }
+        goesOn = step.MovesOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateOldMBOM(iBefore, parent, iNext); });
+        if (goesOn) {
+            VXMBomViewerTrace.TraPutLN(kCall);
+            step.SetLevel(parent->GetLevel() + 1);
         }
     }
-    step.WalkOn([&](VXMFabFlowNode* iBefore, int iNext) { CreateOldMBOM(iBefore, parent, iNext); });
 }
