@@ -14,13 +14,13 @@ VXMBomTree::~VXMBomTree() {
     Free();
 }
 
-void VXMBomTree::Add(VXMFabMBOMNode* iNode) {
+void VXMBomTree::Enter(VXMFabMBOMNode* iNode, VXMPlaces::Entry iEntry) {
     if (!iNode || !HasKnownType(*iNode)) {
         return;
     }
     // The count first, so that a node that couldn't be entered everywhere isn't owned here yet.
     int* const count = iNode->IsAssignment() ? &_assignments[iNode->GetID()] : nullptr;
-    _nodes[iNode->GetAT()].Append(iNode);
+    _nodes[iNode->GetAT()].Append(iNode, iEntry);
     if (count) {
         ++*count;
     }
@@ -49,4 +49,27 @@ void VXMBomTree::Free() {
 
 bool VXMBomTree::Holds(const VXMFabMBOMNode* iNode) const {
     return std::any_of(_nodes.begin(), _nodes.end(), [iNode](const VXMPlaces& iNodes) { return iNodes.Holds(iNode); });
+}
+
+VXMBomTree::RollCall::RollCall(const VXMBomTree& iTree, const VXMFabMBOMNode& iParent)
+    : _tree(iTree), _parent(iParent), _skipsLeft(4 * iParent.GetNumberOfSuccessors()) {}
+
+bool VXMBomTree::RollCall::Holds(const VXMFabMBOMNode* iChild) {
+    for (std::size_t type = 0; type < _positions.size(); ++type) {
+        if (iChild && NextChild(_tree._nodes[type], _positions[type]) == iChild) {
+            ++_positions[type];
+            return true;
+        }
+    }
+    return _tree.Holds(iChild);
+}
+
+/// The next node of a register that has the parent; another, or null, when too many others stand before it.
+const VXMFabMBOMNode* VXMBomTree::RollCall::NextChild(const VXMPlaces& iNodes, int& ioPosition) {
+    const VXMFabMBOMNode* node = iNodes[ioPosition];
+    while (node && node->GetPredecessor() != &_parent && _skipsLeft > 0) {
+        --_skipsLeft;
+        node = iNodes[++ioPosition];
+    }
+    return node;
 }

@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kNoPlace = -1;
 constexpr int kShortList = 16; // up to this length a search from the front is as fast
+constexpr int kNear = 16;      // and so is one up to here on both sides of the node that was found last
 
 } // namespace
 
@@ -15,9 +16,7 @@ constexpr int kShortList = 16; // up to this length a search from the front is a
 /// places are taken. Places keep their numbers until the gaps are closed.
 class VXMPlaces::Gaps {
 public:
-    explicit Gaps(std::vector<VXMFabMBOMNode*>& ioNodes) : _nodes(ioNodes), _taken(static_cast<int>(ioNodes.size())) {
-        MakeTable();
-    }
+    explicit Gaps(Nodes& ioNodes) : _nodes(ioNodes), _taken(static_cast<int>(ioNodes.size())) {}
 
     int CountTaken() const { return _taken; }
 
@@ -38,18 +37,17 @@ public:
         return _latestPlace;
     }
 
-    int PlaceOf(const VXMFabMBOMNode* iNode) const {
-        if (_hasRepeats) {
-            const auto found = std::find(_nodes.begin(), _nodes.end(), iNode);
-            return found == _nodes.end() ? kNoPlace : static_cast<int>(found - _nodes.begin());
-        }
-        return _table[SlotOf(iNode)];
+    int PlaceOf(const VXMFabMBOMNode* iNode, bool iMayRepeat) {
+        const int near = iMayRepeat ? kNoPlace : FindNear(iNode);
+        const int place = near == kNoPlace ? Find(iNode) : near;
+        _latestFound = place == kNoPlace ? _latestFound : place;
+        return place;
     }
 
     void TakeLast() {
         const auto places = static_cast<int>(_nodes.size());
         if (places * 2 > static_cast<int>(_table.size())) {
-            MakeTable();
+            _table.clear();
         } else {
             Enter(places - 1);
         }
@@ -70,6 +68,28 @@ public:
     }
 
 private:
+    int FindNear(const VXMFabMBOMNode* iNode) const {
+        const int first = std::max(_latestFound - kNear, 0);
+        const int last = std::min(_latestFound + kNear, static_cast<int>(_nodes.size()));
+        for (int place = first; place < last; ++place) {
+            if (_nodes[place] == iNode) {
+                return place;
+            }
+        }
+        return kNoPlace;
+    }
+
+    int Find(const VXMFabMBOMNode* iNode) {
+        if (_table.empty()) {
+            MakeTable();
+        }
+        if (_hasRepeats) {
+            const auto found = std::find(_nodes.begin(), _nodes.end(), iNode);
+            return found == _nodes.end() ? kNoPlace : static_cast<int>(found - _nodes.begin());
+        }
+        return _table[SlotOf(iNode)];
+    }
+
     int NextTaken(int iPlace) const {
         const auto places = static_cast<int>(_nodes.size());
         while (iPlace < places && !_nodes[iPlace]) {
@@ -85,15 +105,19 @@ private:
 
     /// Each close is paid for by the nodes that have left since the one before.
     void Close() {
-        const auto passed = _nodes.begin() + std::min<std::ptrdiff_t>(_latestPlace + 1, std::ssize(_nodes));
-        const auto emptyBefore = static_cast<int>(std::count(_nodes.begin(), passed, nullptr));
+        _latestPlace -= CountEmpty(_latestPlace + 1);
+        _latestFound -= CountEmpty(_latestFound);
         std::erase(_nodes, nullptr);
-        _latestPlace -= emptyBefore;
-        MakeTable();
+        _table.clear();
+    }
+
+    int CountEmpty(int iPlaces) const {
+        const auto end = _nodes.begin() + std::min<std::ptrdiff_t>(iPlaces, std::ssize(_nodes));
+        return static_cast<int>(std::count(_nodes.begin(), end, nullptr));
     }
 
     void MakeTable() {
-        _table.assign(std::bit_ceil(_nodes.size() * 2 + 2), kNoPlace); // raises before it changes anything
+        _table.assign(std::bit_ceil(_nodes.size() * 2 + 2), kNoPlace);
         _hasRepeats = false;
         for (int place = 0; place < static_cast<int>(_nodes.size()); ++place) {
             if (_nodes[place]) {
@@ -121,9 +145,10 @@ private:
         return slot;
     }
 
-    std::vector<VXMFabMBOMNode*>& _nodes;
-    std::vector<int> _table; // places, found by a hash of the node's address
+    Nodes& _nodes;
+    std::vector<int, QORLargeAllocator<int>> _table; // places, found by a hash of the node's address; may be missing
     int _taken;
+    int _latestFound = 0;    // place of the node that was found last, or about there
     int _latestPosition = 0; // and its place: what was asked for last
     int _latestPlace = kNoPlace;
     bool _hasRepeats = false;
@@ -143,16 +168,12 @@ VXMFabMBOMNode* VXMPlaces::operator[](int iPosition) const {
     return _nodes[_gaps ? _gaps->PlaceAt(iPosition) : iPosition - 1];
 }
 
-void VXMPlaces::Append(VXMFabMBOMNode* iNode) {
+void VXMPlaces::Append(VXMFabMBOMNode* iNode, Entry iEntry) {
     _nodes.push_back(iNode);
-    try {
-        if (_gaps) {
-            _gaps->TakeLast();
-        }
-    } catch (...) {
-        _nodes.pop_back(); // who adds it owns it still
-        throw;
+    if (_gaps) {
+        _gaps->TakeLast();
     }
+    _mayRepeat = _mayRepeat || iEntry == Entry::MaybeAgain;
 }
 
 VXMPlaces::Gaps& VXMPlaces::OpenGaps() const {
@@ -164,7 +185,7 @@ VXMPlaces::Gaps& VXMPlaces::OpenGaps() const {
 
 int VXMPlaces::PlaceOf(const VXMFabMBOMNode* iNode) const {
     if (_gaps || Size() > kShortList) {
-        return OpenGaps().PlaceOf(iNode);
+        return OpenGaps().PlaceOf(iNode, _mayRepeat);
     }
     const auto found = std::find(_nodes.begin(), _nodes.end(), iNode);
     return found == _nodes.end() ? kNoPlace : static_cast<int>(found - _nodes.begin());
@@ -202,4 +223,5 @@ void VXMPlaces::RemovePosition(int iPosition) {
 void VXMPlaces::RemoveAll() {
     _gaps.reset();
     _nodes.clear();
+    _mayRepeat = false;
 }

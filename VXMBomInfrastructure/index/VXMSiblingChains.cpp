@@ -115,9 +115,10 @@ VXMSiblingChains::Chains* VXMSiblingChains::ChainsOf(VXMFabMBOMNode& iParent) {
         return nullptr;
     }
     auto chains = std::make_unique<Chains>();
+    VXMBomTree::RollCall registered(_tree, iParent);
     for (int position = 1; chains && position <= count; ++position) {
         VXMFabMBOMNode* const child = iParent.GetSuccessor(position);
-        if (_tree.Holds(child)) {
+        if (registered.Holds(child)) {
             chains->Append(*child);
         } else {
             chains.reset();

@@ -84,6 +84,10 @@ void VXMFabMBOMNode::AddSuccessor(VXMFabMBOMNode* iNode) {
     }
 }
 
+void VXMFabMBOMNode::AddFirst(VXMFabMBOMNode& iChild) {
+    _state->successors.Append(&iChild, VXMPlaces::Entry::First);
+}
+
 int VXMFabMBOMNode::GetNumberOfSuccessors() const {
     return _state->successors.Size();
 }

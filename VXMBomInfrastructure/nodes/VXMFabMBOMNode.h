@@ -78,6 +78,10 @@ public:
 
 private:
     friend class VXMBomGenerator;
+    friend class VXMPooledMBOMNode;
+
+    /// Appends a child that is in no list yet.
+    VXM_HIDDEN void AddFirst(VXMFabMBOMNode& iChild);
 
     /// The name, for as long as the node lives.
     VXM_HIDDEN const char* PeekName() const;
