@@ -7,6 +7,7 @@
 #include "VXMBomInfrastructure/generation/VXMBomRecorder.h"
 #include "VXMBomInfrastructure/generation/VXMStructure.h"
 #include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
+#include "VXMBomInfrastructure/index/VXMPool.h"
 #include "VXMBomInfrastructure/index/VXMStructures.h"
 #include "VXMBomInfrastructure/model/QORIProduct.h"
 #include "VXMBomInfrastructure/model/VXMIMfgAssembly.h"
@@ -15,17 +16,33 @@
 #include <algorithm>
 #include <utility>
 
+/// A node of the build, its own part from a pool as its state is.
+class VXMPooledMBOMNode final : public VXMFabMBOMNode {
+public:
+    using VXMFabMBOMNode::VXMFabMBOMNode;
+
+    static void* operator new(std::size_t) { return VXMPool<sizeof(VXMFabMBOMNode)>::Get().Take(); }
+    static void operator delete(void* iNode) { VXMPool<sizeof(VXMFabMBOMNode)>::Get().GiveBack(iNode); }
+
+    /// Puts the new node at the end of a parent's children.
+    void Attach(VXMFabMBOMNode& ioParent) {
+        ioParent.AddFirst(*this);
+        SetPredecessor(&ioParent);
+    }
+};
+static_assert(sizeof(VXMPooledMBOMNode) == sizeof(VXMFabMBOMNode));
+
 VXMFabMBOMNode& VXMAttachNode(VXMBomGenerator& ioGenerator, VXMFabMBOMNode& ioParent,
                               const QORBaseUnknown_var& iProduct, int iLevel, int iNumber,
                               VXMFabMBOMNode::AssignmentType iType, unsigned char iRemovable,
                               const VXMFabFlowNode* iStep) {
     QORWork::Step();
-    auto made = std::make_unique<VXMFabMBOMNode>(iProduct, iLevel, iNumber, iType, iRemovable);
-    ioGenerator.AddMBOMNodeToList(made.get());
-    VXMFabMBOMNode& node = *made.release();
-    ioParent.AddSuccessor(&node);
-    node.SetPredecessor(&ioParent);
-    if (VXMBomRecorder* const recorder = VXMBomComputation::Of(ioGenerator).recorder) {
+    VXMBomComputation& computation = VXMBomComputation::Of(ioGenerator);
+    auto made = std::make_unique<VXMPooledMBOMNode>(iProduct, iLevel, iNumber, iType, iRemovable);
+    computation.tree.AddNew(*made);
+    VXMPooledMBOMNode& node = *made.release();
+    node.Attach(ioParent);
+    if (VXMBomRecorder* const recorder = computation.recorder) {
         recorder->NodeMade(node, iStep);
     }
     return node;
@@ -58,20 +75,19 @@ class VXMStructure::OnPath {
 public:
     OnPath(VXMStructure& ioStructure, const QORBaseUnknown* iProduct)
         : _structure(ioStructure), _product(iProduct),
-          _outer(std::exchange(ioStructure._products.try_emplace(iProduct, kNone).first->second,
-                               ioStructure._assemblies)) {}
+          _outer(std::exchange(ioStructure._products[iProduct], ioStructure._assemblies + 1)) {}
     ~OnPath() {
         if (_outer == kNone) {
-            _structure._products.erase(_product);
+            _structure._products.Remove(_product);
         } else {
-            _structure._products[_product] = _outer;
+            *_structure._products.Find(_product) = _outer;
         }
     }
     OnPath(const OnPath&) = delete;
     OnPath& operator=(const OnPath&) = delete;
 
 private:
-    static constexpr int kNone = -1;
+    static constexpr int kNone = 0;
 
     VXMStructure& _structure;
     const QORBaseUnknown* _product;
@@ -84,26 +100,26 @@ int VXMStructure::Expand(VXMFabMBOMNode& ioNode, int iLevel, int iNumber) {
         _top = object;
     }
     if (const VXMIMfgAssembly_var assembly{object}) {
-        if (_expanded.contains(object.Impl())) {
+        if (_expanded.Find(object.Impl())) {
             return iNumber;
         }
         const List contents = ::ContentsOf(assembly);
         if (!contents || contents->Size() == 0) {
             return iNumber;
         }
-        _expanded.insert(object.Impl());
+        _expanded[object.Impl()] = true;
         ++_assemblies;
         const int number = ExpandList(ioNode, contents, iLevel, iNumber);
         --_assemblies;
-        _expanded.erase(object.Impl());
+        _expanded.Remove(object.Impl());
         return number;
     }
     if (_kind == Kind::AssembliesOnly) {
         return iNumber;
     }
     const QORIProduct_var product(object);
-    const auto above = _products.find(object.Impl());
-    if (!product || (above != _products.end() && above->second == _assemblies)) {
+    const int* const above = _products.Find(object.Impl());
+    if (!product || (above && *above == _assemblies + 1)) {
         return iNumber;
     }
     const List children(product->GetChildren("QORIProduct"));

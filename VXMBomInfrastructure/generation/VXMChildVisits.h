@@ -1,8 +1,10 @@
 #pragma once
 
 #include "QORPlatform/framework/QORBaseUnknown.h"
+#include "VXMBomInfrastructure/index/VXMByObject.h"
 
-#include <unordered_map>
+#include <cstddef>
+#include <utility>
 
 /// Visits of children that are under way, each from the registration of its node to the end of its walk.
 ///
@@ -14,14 +16,12 @@ public:
     class Visit {
     public:
         Visit(VXMChildVisits& ioVisits, const QORBaseUnknown* iChild, std::size_t iObjects)
-            : _visits(ioVisits), _child(iChild), _outer(ioVisits._underWay[iChild]) {
-            _visits._underWay[iChild] = iObjects;
-        }
+            : _visits(ioVisits), _child(iChild), _outer(std::exchange(ioVisits._underWay[iChild], iObjects)) {}
         ~Visit() {
             if (_outer == 0) {
-                _visits._underWay.erase(_child);
+                _visits._underWay.Remove(_child);
             } else {
-                _visits._underWay[_child] = _outer;
+                *_visits._underWay.Find(_child) = _outer;
             }
         }
         Visit(const Visit&) = delete;
@@ -34,10 +34,10 @@ public:
     };
 
     bool WouldGoRound(const QORBaseUnknown* iChild, std::size_t iObjects) const {
-        const auto visit = _underWay.find(iChild);
-        return visit != _underWay.end() && visit->second == iObjects;
+        const std::size_t* const visit = _underWay.Find(iChild);
+        return visit && *visit == iObjects;
     }
 
 private:
-    std::unordered_map<const QORBaseUnknown*, std::size_t> _underWay; // objects that had a node at its start
+    VXMByObject<std::size_t> _underWay; // objects that had a node at its start
 };

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "QORPlatform/collections/QORListValQORBaseUnknown_var.h"
+#include "VXMBomInfrastructure/index/VXMByObject.h"
 #include "VXMBomInfrastructure/nodes/VXMFabMBOMNode.h"
 
 #include <cstdint>
 #include <memory>
-#include <unordered_map>
-#include <unordered_set>
 
 class VXMBomGenerator;
 class VXMFabFlowNode;
@@ -37,7 +36,7 @@ public:
     static List ContentsOf(const QORBaseUnknown_var& iObject, Kind iKind);
 
     /// Says that an object was expanded further up, before this began.
-    void WasExpanded(const QORBaseUnknown_var& iObject) { _expanded.insert(iObject.Impl()); }
+    void WasExpanded(const QORBaseUnknown_var& iObject) { _expanded[iObject.Impl()] = true; }
 
     /// Makes the nodes below ioNode and gives the number to go on with. Raises VXMTooManyNodes when the computation
     /// makes more parts than it may.
@@ -52,9 +51,9 @@ private:
 
     VXMBomGenerator& _generator;
     Kind _kind;
-    QORBaseUnknown_var _top;                                  // of the node with which the expansion began
-    std::uint64_t _parts = 0;                                 // that were made below it
-    std::unordered_set<const QORBaseUnknown*> _expanded;      // assemblies on the path, and what the caller named
-    std::unordered_map<const QORBaseUnknown*, int> _products; // plain products on the path: assemblies above the latest
-    int _assemblies = 0;                                      // on the path, of this expansion
+    QORBaseUnknown_var _top;     // of the node with which the expansion began
+    std::uint64_t _parts = 0;    // that were made below it
+    VXMByObject<bool> _expanded; // assemblies on the path, and what the caller named
+    VXMByObject<int> _products;  // plain products on the path: assemblies above the latest, and one more
+    int _assemblies = 0;         // on the path, of this expansion
 };

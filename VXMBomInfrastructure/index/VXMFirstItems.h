@@ -11,9 +11,10 @@
 #pragma once
 
 #include "QORPlatform/framework/QORVar.h"
+#include "VXMBomInfrastructure/index/VXMByObject.h"
 
 #include <optional>
-#include <unordered_map>
+#include <vector>
 
 /// The present search, and the answers of those before it where these are kept. Without them this is the direct form:
 /// it knows the items that the search is past, so that every search ends.
@@ -51,7 +52,9 @@ private:
     };
 
     bool _keeps;
-    std::unordered_map<const QORBaseUnknown*, int> _path; // depth of each item that the search is past
-    int _circleStart = -1;                                // depth of the item that was met a second time
-    std::unordered_map<const QORBaseUnknown*, Answer> _answers;
+    VXMByObject<int> _path; // depth of each item that the search is past
+    int _pathLength = 0;
+    int _circleStart = -1; // depth of the item that was met a second time
+    std::vector<Answer> _answers;
+    VXMByObject<std::size_t> _settled; // items that have an answer, and how many have one with them
 };

@@ -22,6 +22,10 @@ VXMFabFlowNode* VXMFlowEnds::Find(VXMFabFlowNode* iNode) {
     if (!iNode || iNode->GetNumberOfSuccessors() == 0) {
         return iNode;
     }
+    VXMFabFlowNode* const next = iNode->GetSuccessor(1);
+    if (next && next->GetNumberOfSuccessors() == 0) {
+        return next; // nothing to remember: many flows end so
+    }
     VXMFabFlowNode* const reached = RunAhead(*iNode);
     if (_memos[reached].loopEntry) {
         return _memos[FindLoopEntry(*iNode)].beforeOnLoop;

@@ -12,8 +12,9 @@
 
 #pragma once
 
+#include "VXMBomInfrastructure/index/VXMByObject.h"
+
 #include <cstdint>
-#include <unordered_map>
 
 class VXMFabFlowNode;
 
@@ -41,6 +42,6 @@ private:
     void MarkLoop(VXMFabFlowNode& iOnLoop);
     VXMFabFlowNode* FindLoopEntry(VXMFabFlowNode& iNode);
 
-    std::unordered_map<const VXMFabFlowNode*, Memo> _memos;
+    VXMByObject<Memo> _memos; // by flow node
     std::uint64_t _search = 0;
 };

@@ -2,7 +2,7 @@
 
 #include "VXMBomInfrastructure/model/QORISpecObject.h"
 
-#include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -12,12 +12,13 @@ bool IsStation(const QORISPPAbstractActivity_var& iActivity) {
     return typed && typed->IsOfType(station) == 1;
 }
 
-} // namespace
-
-bool VXMStations::Climb(QORISPPAbstractActivity_var iActivity) {
+/// A climb that ends at the top, where iStops says so, or after some rounds where parents come round in a circle. Gives
+/// whether iStops ended it.
+template <class Stops>
+bool ClimbUntil(QORISPPAbstractActivity_var iActivity, Stops iStops) {
     QORISPPAbstractActivity_var mark; // moved on at each power of two, so that a circle comes past it
     for (unsigned steps = 1; iActivity && !(iActivity == mark); ++steps) {
-        if (IsStation(iActivity)) {
+        if (iStops(iActivity)) {
             return true;
         }
         if ((steps & (steps - 1)) == 0) {
@@ -28,28 +29,30 @@ bool VXMStations::Climb(QORISPPAbstractActivity_var iActivity) {
     return false;
 }
 
+} // namespace
+
+bool VXMStations::Climb(QORISPPAbstractActivity_var iActivity) {
+    return ClimbUntil(std::move(iActivity), &IsStation);
+}
+
 bool VXMStations::IsInStation(const QORISPPAbstractActivity_var& iActivity) {
-    std::vector<QORBaseUnknown_var> climbed;
-    std::unordered_set<const QORBaseUnknown*> onTheWay;
-    bool found = false;
-    for (QORISPPAbstractActivity_var activity = iActivity; activity; activity = activity->GetParent()) {
-        const auto known = _answers.find(activity.Impl());
-        if (known != _answers.end()) {
-            found = known->second;
-            break;
-        }
-        if (!onTheWay.insert(activity.Impl()).second) {
-            break;
-        }
-        climbed.emplace_back(activity);
-        found = IsStation(activity);
-        if (found) {
-            break;
-        }
+    if (const Answer* const known = _answers.Find(iActivity.Impl())) {
+        return *known == Answer::Inside;
     }
-    for (QORBaseUnknown_var& activity : climbed) {
-        _answers.emplace(activity.Impl(), found);
-        _remembered.push_back(std::move(activity));
+    const std::size_t before = _remembered.size();
+    Answer answer = Answer::Outside;
+    ClimbUntil(iActivity, [&](const QORISPPAbstractActivity_var& iAbove) {
+        if (const Answer* const known = _answers.Find(iAbove.Impl())) {
+            answer = *known;
+            return true;
+        }
+        _remembered.emplace_back(iAbove);
+        answer = IsStation(iAbove) ? Answer::Inside : Answer::Outside;
+        return answer == Answer::Inside;
+    });
+    for (std::size_t place = before; place < _remembered.size(); ++place) {
+        Answer& kept = _answers[_remembered[place].Impl()];
+        kept = kept == Answer::None ? answer : kept;
     }
-    return found;
+    return answer == Answer::Inside;
 }

@@ -7,9 +7,9 @@
 
 #pragma once
 
+#include "VXMBomInfrastructure/index/VXMByObject.h"
 #include "VXMBomInfrastructure/model/QORISPPAbstractActivity.h"
 
-#include <unordered_map>
 #include <vector>
 
 /// For the length of one walk. Holds on to the activities that it remembers.
@@ -22,6 +22,8 @@ public:
     static bool Climb(QORISPPAbstractActivity_var iActivity);
 
 private:
-    std::unordered_map<const QORBaseUnknown*, bool> _answers;
+    enum class Answer : unsigned char { None, Outside, Inside };
+
+    VXMByObject<Answer> _answers;
     std::vector<QORBaseUnknown_var> _remembered;
 };

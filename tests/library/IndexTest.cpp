@@ -3,6 +3,7 @@
 #include "library/RandomWorld.h"
 
 #include "VXMBomInfrastructure/generation/VXMBomTree.h"
+#include "VXMBomInfrastructure/index/VXMByObject.h"
 #include "VXMBomInfrastructure/index/VXMFlowEnds.h"
 #include "VXMBomInfrastructure/index/VXMNatural.h"
 #include "VXMBomInfrastructure/index/VXMPlaces.h"
@@ -37,7 +38,7 @@ VXMFabMBOMNode* address(int index) {
 }
 
 /// One change or question at random to both lists.
-void stepOnBoth(std::mt19937& random, VXMPlaces& places, Nodes& plain, bool mayRepeat) {
+void stepOnBoth(std::mt19937& random, VXMPlaces& places, Nodes& plain, bool mayRepeat, bool saysFirst) {
     VXMFabMBOMNode* const node = address(pick(random, 200));
     const auto place = std::find(plain.begin(), plain.end(), node);
     const int position = pick(random, static_cast<int>(plain.size()) + 3);
@@ -62,7 +63,7 @@ void stepOnBoth(std::mt19937& random, VXMPlaces& places, Nodes& plain, bool mayR
         break;
     default:
         if (mayRepeat || place == plain.end()) {
-            places.Append(node);
+            places.Append(node, saysFirst ? VXMPlaces::Entry::First : VXMPlaces::Entry::MaybeAgain);
             plain.push_back(node);
         }
     }
@@ -75,7 +76,7 @@ TEST(Places, EqualAPlainList) {
         VXMPlaces places;
         Nodes plain;
         for (int step = 0; step < 600; ++step) {
-            stepOnBoth(random, places, plain, seed % 3 == 0);
+            stepOnBoth(random, places, plain, seed % 3 == 0, seed % 3 == 1);
             ASSERT_EQ(places.Size(), static_cast<int>(plain.size()));
             if (step % 50 == 0) {
                 ASSERT_EQ(nodesOf(places), plain);
@@ -99,6 +100,24 @@ TEST(ByNumber, EqualsAMap) {
     }
     values.RemoveAll();
     EXPECT_EQ(values.Get(plain.begin()->first), 0);
+}
+
+TEST(ByObject, EqualsAMap) {
+    std::mt19937 random(1);
+    VXMByObject<int> values;
+    std::map<const void*, int> plain;
+    for (int step = 0; step < 20000; ++step) {
+        const void* const object = address(pick(random, step < 10000 ? 200 : 5));
+        const int* const found = values.Find(object);
+        ASSERT_EQ(found != nullptr, plain.contains(object));
+        ASSERT_TRUE(!found || *found == plain[object]);
+        if (pick(random, 2) == 0) {
+            values.Remove(object);
+            plain.erase(object);
+        } else {
+            values[object] = plain[object] = step;
+        }
+    }
 }
 
 TEST(Naturals, AddSubtractAndCompareAcrossWords) {
