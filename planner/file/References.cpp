@@ -4,6 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
+
 namespace planner {
 
 namespace {
@@ -43,30 +45,91 @@ void References::addLink(std::size_t from, std::size_t to) {
     links_.push_back(to);
 }
 
+/// The ids that are named, one after the other, with the objects that have them. A million scattered objects
+/// are out of the cache, so each is on its way while those before it are found.
+class References::Lookups {
+public:
+    Lookups(const References& references, std::string_view text, const IdIndex& index)
+        : references_(references), text_(text), index_(index) {
+        for (std::size_t i = 0; i < kAhead; ++i) {
+            sendForNext();
+        }
+    }
+
+    /// Moves on to the next id; there is one.
+    void next() {
+        sendForNext();
+        index_.sendForObject(at(found_ + kAhead / 2).hash);
+        const Named& named = at(found_++);
+        object_ = index_.find(named.id, named.hash);
+    }
+
+    // The present one.
+    ModelObject* object() const { return object_; }
+    std::string_view id() const { return at(found_ - 1).id; }
+    std::size_t offset() const { return at(found_ - 1).offset; }
+
+private:
+    static constexpr std::size_t kAhead = 16;
+
+    struct Named {
+        std::size_t offset = 0;
+        std::size_t hash = 0;
+        std::string_view id;
+        std::string decoded; // what id refers to when it holds escapes
+    };
+
+    const Named& at(std::size_t place) const { return ring_[place % ring_.size()]; }
+
+    /// Reads the id after those that were sent for; nothing when there is none.
+    void sendForNext() {
+        const auto& entries = references_.offsets_;
+        const auto& links = references_.links_;
+        if (sent_ >= entries.size() + links.size()) {
+            return;
+        }
+        Named& named = ring_[sent_ % ring_.size()];
+        named.offset = sent_ < entries.size() ? entries[sent_] : links[sent_ - entries.size()];
+        named.id = textAt(text_, named.offset, named.decoded);
+        named.hash = IdIndex::hashOf(named.id);
+        index_.sendForPlace(named.hash);
+        ++sent_;
+    }
+
+    const References& references_;
+    std::string_view text_;
+    const IdIndex& index_;
+    std::array<Named, 2 * kAhead> ring_;
+    std::size_t sent_ = 0;
+    std::size_t found_ = 0;
+    ModelObject* object_ = nullptr;
+};
+
 void References::resolve(std::string_view text, Plan& plan, Faults& faults) {
-    text_ = text;
-    plan_ = &plan;
     faults_ = &faults;
-    auto offset = offsets_.cbegin();
+    Lookups lookups(*this, text, plan.index());
+    const auto find = [&](Wanted wanted, std::string_view key) {
+        lookups.next();
+        return check(lookups.object(), lookups.id(), lookups.offset(), wanted, key);
+    };
     for (const Entry& entry : entries_) {
         auto& slots = entry.list->make();
         for (std::size_t i = 0; i < entry.count; ++i) {
-            slots[entry.firstSlot + i] = find(*offset++, entry.wanted, relationText(entry.relation));
+            slots[entry.firstSlot + i] = find(entry.wanted, relationText(entry.relation));
         }
     }
     for (std::size_t i = 0; i < links_.size(); i += 2) {
-        auto* const from = find(links_[i], Wanted::FlowEnd, "links");
-        auto* const to = find(links_[i + 1], Wanted::FlowEnd, "links");
+        auto* const from = find(Wanted::FlowEnd, "links");
+        auto* const to = find(Wanted::FlowEnd, "links");
         if (faults.empty()) {
             plan.addLink(static_cast<FlowObject&>(*from), static_cast<FlowObject&>(*to));
         }
     }
 }
 
-ModelObject* References::find(std::size_t offset, Wanted wanted, std::string_view key) {
-    std::string decoded;
-    const std::string_view id = textAt(text_, offset, decoded);
-    ModelObject* const object = plan_->find(id);
+/// Reports what is wrong with an object, which may be null, where it is named; gives it back.
+ModelObject* References::check(ModelObject* object, std::string_view id, std::size_t offset, Wanted wanted,
+                               std::string_view key) {
     const auto report = [&](const std::string& what) {
         faults_->addValue(offset, '"' + std::string(key) + "\" names " + inQuotes(id) + ", which is " + what +
                                       "; expected the id of " + wantedText(wanted));

@@ -37,15 +37,16 @@ private:
         Wanted wanted;
     };
 
-    ModelObject* find(std::size_t offset, Wanted wanted, std::string_view key);
+    class Lookups;
+
+    ModelObject* check(ModelObject* object, std::string_view id, std::size_t offset, Wanted wanted,
+                       std::string_view key);
 
     std::vector<Entry> entries_;
     std::vector<std::size_t> offsets_; // of all entries, one behind the other
     std::vector<std::size_t> links_;   // two offsets a link
     std::unordered_set<const ModelObject*> doubtful_;
     std::unordered_set<std::string> skipped_;
-    std::string_view text_;
-    const Plan* plan_ = nullptr;
     Faults* faults_ = nullptr;
 };
 

@@ -6,20 +6,30 @@
 
 namespace planner {
 
-namespace {
-
-std::size_t hashOf(std::string_view id) {
+std::size_t IdIndex::hashOf(std::string_view id) {
     return std::hash<std::string_view>()(id);
 }
 
-} // namespace
+void IdIndex::sendForPlace(std::size_t hash) const {
+    if (!slots_.empty()) {
+        __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]);
+    }
+}
 
-ModelObject* IdIndex::find(std::string_view id) const {
+void IdIndex::sendForObject(std::size_t hash) const {
+    if (slots_.empty()) {
+        return;
+    }
+    if (const ModelObject* const object = slots_[hash & (slots_.size() - 1)].object) {
+        __builtin_prefetch(&object->id());
+    }
+}
+
+ModelObject* IdIndex::find(std::string_view id, std::size_t hash) const {
     if (slots_.empty()) {
         return nullptr;
     }
     const std::size_t mask = slots_.size() - 1;
-    const std::size_t hash = hashOf(id);
     for (std::size_t at = hash & mask; slots_[at].object; at = (at + 1) & mask) {
         if (slots_[at].hash == hash && slots_[at].object->id() == id) {
             return slots_[at].object;
@@ -31,7 +41,7 @@ ModelObject* IdIndex::find(std::string_view id) const {
 void IdIndex::insert(ModelObject& object) {
     constexpr std::size_t kSmallest = 16;
     if (2 * (count_ + 1) > slots_.size()) {
-        std::vector<Slot> larger(slots_.empty() ? kSmallest : 2 * slots_.size());
+        Slots larger(slots_.empty() ? kSmallest : 2 * slots_.size());
         for (const Slot& slot : slots_) {
             if (slot.object) {
                 put(larger, slot);
@@ -63,7 +73,7 @@ void IdIndex::erase(const ModelObject& object) {
     --count_;
 }
 
-void IdIndex::put(std::vector<Slot>& slots, Slot entry) {
+void IdIndex::put(Slots& slots, Slot entry) {
     const std::size_t mask = slots.size() - 1;
     std::size_t at = entry.hash & mask;
     while (slots[at].object) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QORPlatform/framework/QORLargeMemory.h"
+
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -13,7 +15,14 @@ class ModelObject;
 class IdIndex {
 public:
     /// The object of that id, or null.
-    ModelObject* find(std::string_view id) const;
+    ModelObject* find(std::string_view id) const { return find(id, hashOf(id)); }
+
+    /// The same in three parts, for many look-ups in a row: a scattered table is out of the cache, so the place is sent
+    /// for some look-ups ahead, then the object, and asked when both are there.
+    static std::size_t hashOf(std::string_view id);
+    void sendForPlace(std::size_t hash) const;
+    void sendForObject(std::size_t hash) const;
+    ModelObject* find(std::string_view id, std::size_t hash) const;
 
     /// Enters an object under its id, which no other object in the index has and which stays the same.
     void insert(ModelObject& object);
@@ -27,9 +36,11 @@ private:
         ModelObject* object = nullptr;
     };
 
-    static void put(std::vector<Slot>& slots, Slot entry);
+    using Slots = std::vector<Slot, QORLargeAllocator<Slot>>;
 
-    std::vector<Slot> slots_; // a power of two of them, half of them free
+    static void put(Slots& slots, Slot entry);
+
+    Slots slots_; // a power of two of them, half of them free
     std::size_t count_ = 0;
 };
 

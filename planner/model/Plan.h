@@ -59,6 +59,9 @@ public:
     /// The object of that id, or null.
     ModelObject* find(std::string_view id) const { return byId_.find(id); }
 
+    /// All objects with their ids, for many look-ups in a row.
+    const IdIndex& index() const { return byId_; }
+
     /// Appends a link at the end of the plan's list and of both views.
     void addLink(FlowObject& from, FlowObject& to) { putLink(links_.make(from, to), nullptr); }
     void makeLinks() { links_.setPresent(true); }
