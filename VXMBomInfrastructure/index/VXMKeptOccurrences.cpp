@@ -45,19 +45,20 @@ void VXMKeptOccurrences::Keep(int iItem) {
     const std::span<const Listed> listed = ListedOf(iItem);
     KeepFirst(listed, Kind::K_Create);
     KeepFirst(listed, Kind::K_Fastener);
-    unsigned kinds = 0;
-    for (const Listed& entry : listed) {
-        kinds |= VXMOccurrenceSearch::KindOf(entry);
-    }
     if (_items.IsMover(iItem)) {
         KeepMover(listed);
     } else if (_items.MoverOf(iItem) >= 0) {
         KeepMoved(listed, iItem);
-    } else if ((kinds & Kind::K_Assigned) != 0 && (kinds & Kind::K_Remove) != 0) {
+    } else if (Lists(listed, Kind::K_Assigned) && Lists(listed, Kind::K_Remove)) {
         KeepPair(listed, iItem);
     } else {
         KeepUnpaired(listed, iItem);
     }
+}
+
+bool VXMKeptOccurrences::Lists(std::span<const Listed> iListed, unsigned iKinds) {
+    return std::any_of(iListed.begin(), iListed.end(),
+                       [iKinds](const Listed& iEntry) { return (VXMOccurrenceSearch::KindOf(iEntry) & iKinds) != 0; });
 }
 
 void VXMKeptOccurrences::KeepFirst(std::span<const Listed> iListed, unsigned iKinds) {
@@ -98,15 +99,10 @@ void VXMKeptOccurrences::KeepUnpaired(std::span<const Listed> iListed, int iItem
     if (height > 0) {
         KeepFirst(iListed, Kind::K_Process);
     }
-    const auto isKind = [](unsigned iKind) {
-        return [iKind](const Listed& iEntry) {
-            return VXMOccurrenceSearch::KindOf(iEntry) == iKind;
-        };
-    };
-    if (std::none_of(iListed.begin(), iListed.end(), isKind(Kind::K_First))) {
+    if (!Lists(iListed, Kind::K_First)) {
         KeepLastAssigned(iListed);
     }
-    if (height > 1 && std::any_of(iListed.begin(), iListed.end(), isKind(Kind::K_Process))) {
+    if (height > 1 && Lists(iListed, Kind::K_Process)) {
         Search().Count(iListed);
         KeepProcess(0, iItem);
     }
@@ -118,6 +114,10 @@ void VXMKeptOccurrences::KeepPair(std::span<const Listed> iListed, int iItem) {
     const VXMNatural assigned = CountOf(iListed, Kind::K_Assigned);
     VXMNatural next = CountOf(iListed, Kind::K_Remove);
     if (assigned == next) {
+        return;
+    }
+    if (next < assigned && _items.HeightOf(iItem) == 0 && !Lists(iListed, Kind::K_First)) {
+        KeepLastAssigned(iListed);
         return;
     }
     Search().Count(iListed);

@@ -51,9 +51,8 @@
 /// Finds the occurrences that are kept of items that are thinned out, and the tree of the paths to them.
 class VXMKeptOccurrences {
 public:
-    /// iMost bounds what repeats bring, nodes of structure or paths to them; IsTooLarge tells that it wasn't enough.
-    /// iPaths are the numbers of paths to each
-    /// place, as far as they can be counted so.
+    /// iPaths are the numbers of paths to each place, as far as they can be counted so. iMost bounds what repeats
+    /// bring, nodes of structure or paths to them; IsTooLarge tells that it wasn't enough.
     VXMKeptOccurrences(const VXMUnrolledSteps& iPlaces, const VXMListings& iListings, const VXMThinnedItems& iItems,
                        const VXMUnrolledSteps::Paths& iFirst, const std::vector<std::uint64_t>& iPaths,
                        std::uint64_t iMost);
@@ -84,6 +83,7 @@ private:
     VXMNatural CountPairs(std::span<const Listed> iListed);
     void ListByItem(const VXMListings& iListings);
     void Keep(int iItem);
+    static bool Lists(std::span<const Listed> iListed, unsigned iKinds);
     void KeepFirst(std::span<const Listed> iListed, unsigned iKinds);
     void KeepLastAssigned(std::span<const Listed> iListed);
     void KeepPair(std::span<const Listed> iListed, int iItem);

@@ -20,7 +20,7 @@ std::uint64_t Subtract(std::uint64_t& ioWord, std::uint64_t iWord, std::uint64_t
 
 } // namespace
 
-VXMNatural& VXMNatural::operator+=(const VXMNatural& iOther) {
+VXMNatural& VXMNatural::AddWords(const VXMNatural& iOther) {
     std::uint64_t carried = Add(_low, iOther._low, 0);
     _high.resize(std::max(_high.size(), iOther._high.size()), 0);
     for (std::size_t place = 0; place < _high.size() && (carried > 0 || place < iOther._high.size()); ++place) {

@@ -14,7 +14,13 @@ public:
     VXMNatural() = default;
     VXMNatural(std::uint64_t iValue) : _low(iValue) {} // NOLINT(google-explicit-constructor): 1 is a natural number
 
-    VXMNatural& operator+=(const VXMNatural& iOther);
+    VXMNatural& operator+=(const VXMNatural& iOther) {
+        if (_high.empty() && iOther._high.empty() && _low + iOther._low >= _low) {
+            _low += iOther._low;
+            return *this;
+        }
+        return AddWords(iOther);
+    }
 
     /// Takes away a number that is not larger than this one.
     VXMNatural& operator-=(const VXMNatural& iOther);
@@ -23,6 +29,7 @@ public:
     bool operator==(const VXMNatural& iOther) const = default;
 
 private:
+    VXMNatural& AddWords(const VXMNatural& iOther);
     std::uint64_t Word(std::size_t iPlace) const { return iPlace < _high.size() ? _high[iPlace] : 0; }
 
     std::uint64_t _low = 0;
