@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <utility>
 
-void VXMBackwardWalk::Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild, Calls iCalls) {
-    _showsCalls = iCalls == Calls::Shown;
+void VXMBackwardWalk::Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild) {
+    const bool showsCalls = iBuild.calls == Calls::Shown;
     _graph.emplace(_numbers, iEnd, [&](VXMFabFlowNode& iStep) {
-        return _showsCalls || std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
+        return showsCalls || std::any_of(kVXMFlowLists.begin(), kVXMFlowLists.end(), [&](const VXMFlowList& iList) {
                    return (iStep.*iList.count)() > 0 && iBuild.takes(iStep, iList.type);
                });
     });
@@ -18,8 +18,11 @@ void VXMBackwardWalk::Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& i
     _paths.emplace(*_graph, _numbers.NumberOf(iEnd), iBuild);
     if (_paths->IsThinned()) {
         _next.emplace(*_paths);
-    } else {
-        _paths.reset();
+        return;
+    }
+    _paths.reset();
+    if (!showsCalls) {
+        _ways.emplace(*_graph);
     }
 }
 
@@ -30,9 +33,9 @@ VXMBackwardWalk::Visit::Visit(VXMBackwardWalk& ioWalk, VXMFabFlowNode& iStep)
 }
 
 VXMBackwardWalk::Visit::~Visit() {
-    _walk._isOnPath[_number] = false;
+    Leave(_number);
     for (const int number : _passed) {
-        _walk._isOnPath[number] = false;
+        Leave(number);
     }
 }
 
@@ -41,6 +44,16 @@ void VXMBackwardWalk::Visit::Enter(int iNumber) {
         _walk._isOnPath.resize(_walk._numbers.Size(), false);
     }
     _walk._isOnPath[iNumber] = true;
+    if (_walk._ways) {
+        _walk._ways->Enter(iNumber);
+    }
+}
+
+void VXMBackwardWalk::Visit::Leave(int iNumber) {
+    _walk._isOnPath[iNumber] = false;
+    if (_walk._ways) {
+        _walk._ways->Leave(iNumber);
+    }
 }
 
 bool VXMBackwardWalk::Visit::MovesOn(VXMFabFlowNode* iBefore) {
@@ -76,5 +89,5 @@ bool VXMBackwardWalk::Enters(const VXMFabFlowNode& iStep) {
     if (number < static_cast<int>(_isOnPath.size()) && _isOnPath[number]) {
         return false;
     }
-    return _showsCalls || !_graph || !_graph->MayPassOver(number, _isOnPath);
+    return !_ways || !_ways->MayPassOver(number);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "VXMBomInfrastructure/index/VXMManyPaths.h"
+#include "VXMBomInfrastructure/index/VXMOpenWays.h"
 
 #include <optional>
 #include <vector>
@@ -11,6 +12,7 @@
 class VXMBackwardWalk {
 public:
     using Form = VXMManyPaths::Form;
+    using Calls = VXMManyPaths::Calls;
 
     explicit VXMBackwardWalk(const QORRawCollPV& iSteps) : _numbers(iSteps) {}
     VXMBackwardWalk(const VXMBackwardWalk&) = delete;
@@ -18,8 +20,7 @@ public:
 
     /// Looks at what lies before the walk. A walk that shows every call enters steps also when it would reach nothing
     /// from there. Raises VXMTooManyNodes.
-    enum class Calls { Shown, Hidden };
-    void Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild, Calls iCalls);
+    void Prepare(VXMFabFlowNode& iEnd, const VXMManyPaths::Build& iBuild);
 
     /// A step that the walk takes, for as long as this lives; and steps before it that the walk has moved on to without
     /// coming back.
@@ -43,6 +44,7 @@ public:
 
     private:
         void Enter(int iNumber);
+        void Leave(int iNumber);
 
         VXMBackwardWalk& _walk;
         VXMFabFlowNode* _step;
@@ -57,8 +59,8 @@ private:
 
     VXMStepNumbers _numbers;
     std::vector<bool> _isOnPath; // by step number
-    bool _showsCalls = true;
     std::optional<VXMStepGraph> _graph;
+    std::optional<VXMOpenWays> _ways;         // of a walk that may pass over steps
     std::optional<VXMManyPaths> _paths;       // of a walk in thinned form
     std::optional<VXMManyPaths::Visit> _next; // likewise: the visit that begins next
 };

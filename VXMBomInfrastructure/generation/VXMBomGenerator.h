@@ -58,9 +58,10 @@ public:
     /// Tells iRecorder, which the caller owns and keeps alive, how the bill comes about; null for nobody, as at first.
     void SetRecorder(VXMBomRecorder* iRecorder);
 
-    /// Bounds the nodes that a computation makes for steps that are reached on several paths; below 0 is 0. One that
-    /// would make more raises VXMTooManyNodes before it makes any. What a plan lists on one path only is never refused
-    /// for that. The parts of products are bounded likewise, but 65,536 of them are always made.
+    /// Bounds the nodes that a computation makes for steps that are reached on several paths, and how often a trace
+    /// shows these; below 0 is 0. One that would make more raises VXMTooManyNodes before it makes any. What a plan
+    /// lists on one path only is never refused for that. The parts of products are bounded likewise, but 65,536 of them
+    /// are always made.
     void SetMaxNodes(long long iCount);
     long long GetMaxNodes() const;
     static constexpr long long kMaxNodes = 20'000'000; ///< at first; they take some eight gigabytes

@@ -41,8 +41,9 @@ public:
         _walk.emplace(computation.graph.GetNodes());
         try {
             _walk->Prepare(
-                iEnd, {computation.form, iKind, takes, static_cast<std::uint64_t>(ioGenerator.GetMaxNodes())},
-                VXMBomViewerTrace.IsActive() ? VXMBackwardWalk::Calls::Shown : VXMBackwardWalk::Calls::Hidden);
+                iEnd, {computation.form,
+                       VXMBomViewerTrace.IsActive() ? VXMBackwardWalk::Calls::Shown : VXMBackwardWalk::Calls::Hidden,
+                       iKind, takes, static_cast<std::uint64_t>(ioGenerator.GetMaxNodes())});
         } catch (...) {
             _walk.reset();
             throw;

@@ -35,8 +35,8 @@ std::string Rounded(double iNumber) {
 
 } // namespace
 
-VXMManyPaths::VXMManyPaths(VXMStepGraph& ioGraph, int iEnd, const Build& iBuild)
-    : _graph(ioGraph), _places(ioGraph, iEnd, iBuild.mostNodes + ioGraph.Size()) {
+VXMManyPaths::VXMManyPaths(const VXMStepGraph& iGraph, int iEnd, const Build& iBuild)
+    : _graph(iGraph), _places(iGraph, iEnd, iBuild.mostNodes + iGraph.Size()) {
     if (_places.IsTooLarge()) {
         RaiseOfLoop(iBuild);
     }
@@ -44,29 +44,32 @@ VXMManyPaths::VXMManyPaths(VXMStepGraph& ioGraph, int iEnd, const Build& iBuild)
     _pathCounts = _places.CountPaths<std::uint64_t>(_first->left, [](std::uint64_t& ioSum, std::uint64_t iPaths) {
         ioSum = std::min(ioSum + iPaths, VXMUnrolledSteps::kManyPaths);
     });
-    std::vector<std::uint64_t> pathsOfSteps(ioGraph.Size(), 0);
+    std::vector<std::uint64_t> pathsOfSteps(iGraph.Size(), 0);
     for (int place = 0; place < _places.Size(); ++place) {
         std::uint64_t& paths = pathsOfSteps[_places.StepAt(place)];
         paths = std::min(paths + _pathCounts[place], VXMUnrolledSteps::kManyPaths);
     }
-    std::vector<bool> hasManyPaths(pathsOfSteps.size());
-    std::transform(pathsOfSteps.begin(), pathsOfSteps.end(), hasManyPaths.begin(),
+    _hasManyPaths.resize(pathsOfSteps.size());
+    std::transform(pathsOfSteps.begin(), pathsOfSteps.end(), _hasManyPaths.begin(),
                    [](std::uint64_t iPaths) { return iPaths > 1; });
-    _listings.emplace(ioGraph, iBuild.takes);
-    _items.emplace(*_listings, hasManyPaths, iBuild.kind);
+    _listings.emplace(iGraph, iBuild.takes);
+    _items.emplace(*_listings, _hasManyPaths, iBuild.kind);
     if (iBuild.form == Form::Thinned && _items->AreThere()) {
         _kept.emplace(_places, *_listings, *_items, *_first, _pathCounts, iBuild.mostNodes);
     }
-    FindWhole();
+    FindWhole(iBuild.calls);
     CheckCost(iBuild);
 }
 
-void VXMManyPaths::FindWhole() {
-    _leadsToWhole.assign(_places.Size(), false);
+/// A place is taken on every path when it or something before it brings an item that is kept whole, or when each call
+/// is shown.
+void VXMManyPaths::FindWhole(Calls iCalls) {
+    _leadsToWhole.assign(_places.Size(), iCalls == Calls::Shown);
     for (const int place : _first->left) {
         const std::span<const int> before = _places.Before(place);
         const std::span<const VXMListings::Entry> entries = _listings->Of(_places.StepAt(place));
         _leadsToWhole[place] =
+            _leadsToWhole[place] ||
             std::any_of(before.begin(), before.end(), [this](int iBefore) { return _leadsToWhole[iBefore]; }) ||
             std::any_of(entries.begin(), entries.end(),
                         [this](const VXMListings::Entry& iEntry) { return IsMade(iEntry); });
@@ -75,7 +78,7 @@ void VXMManyPaths::FindWhole() {
 
 /// Nodes that a step makes on its paths, when there are several, and the visits that this takes.
 double VXMManyPaths::CountMade(int iPlace) const {
-    if (_pathCounts[iPlace] < 2 || !_leadsToWhole[iPlace]) {
+    if (!_hasManyPaths[_places.StepAt(iPlace)] || !_leadsToWhole[iPlace]) {
         return 0;
     }
     double nodes = 1;
@@ -98,23 +101,33 @@ void VXMManyPaths::CheckCost(const Build& iBuild) const {
 void VXMManyPaths::Raise(const Build& iBuild, double iNodes) const {
     std::map<int, double> items;
     std::map<int, double> steps;
+    std::map<int, double> taken;
     for (int place = 0; place < _places.Size(); ++place) {
-        if (_pathCounts[place] < 2) {
+        const int step = _places.StepAt(place);
+        if (!_hasManyPaths[step]) {
             continue;
         }
-        for (const VXMListings::Entry& entry : _listings->Of(_places.StepAt(place))) {
+        const auto paths = static_cast<double>(_pathCounts[place]);
+        taken[step] += paths;
+        for (const VXMListings::Entry& entry : _listings->Of(step)) {
             if (IsMade(entry) || _kept->IsTooLarge()) {
-                const auto paths = static_cast<double>(_pathCounts[place]);
                 items[entry.item] += paths * static_cast<double>(_items->NodesOf(entry.item));
-                steps[_places.StepAt(place)] = paths;
+                steps[step] = taken[step];
             }
         }
+    }
+    const auto nameOfStep = [this](int iStep) {
+        return _graph.StepOf(iStep)->GetUName();
+    };
+    if (items.empty()) {
+        throw VXMTooManyNodes("a trace would show steps on many paths about " + Rounded(iNodes) + " times, more than " +
+                              std::to_string(iBuild.mostNodes) + ": " + NameCostly(taken, nameOfStep));
     }
     throw VXMTooManyNodes(
         "steps on many paths would make " + (_kept && _kept->IsTooLarge() ? "too many" : "about " + Rounded(iNodes)) +
         " nodes, more than " + std::to_string(iBuild.mostNodes) + ": items " +
         NameCostly(items, [this](int iItem) { return VXMNameOfProduct(_listings->ObjectOf(iItem)); }) + " at steps " +
-        NameCostly(steps, [this](int iStep) { return _graph.StepOf(iStep)->GetUName(); }));
+        NameCostly(steps, nameOfStep));
 }
 
 void VXMManyPaths::RaiseOfLoop(const Build& iBuild) const {

@@ -19,17 +19,22 @@ class VXMManyPaths {
 public:
     enum class Form { Full, Thinned };
 
+    /// Whether a trace shows each call for a step.
+    enum class Calls { Shown, Hidden };
+
     /// What a build is like. takes(step, type) tells whether it takes a step's list of a type; mostNodes bounds the
-    /// nodes made for steps with several paths.
+    /// nodes made for steps with several paths, and the calls that this takes. One that shows its calls is in full
+    /// form.
     struct Build {
         Form form;
+        Calls calls;
         VXMStructure::Kind kind;
         std::function<bool(VXMFabFlowNode&, VXMFabMBOMNode::AssignmentType)> takes;
         std::uint64_t mostNodes;
     };
 
     /// Raises VXMTooManyNodes. The graph isn't a tree, and lives as long.
-    VXMManyPaths(VXMStepGraph& ioGraph, int iEnd, const Build& iBuild);
+    VXMManyPaths(const VXMStepGraph& iGraph, int iEnd, const Build& iBuild);
     VXMManyPaths(const VXMManyPaths&) = delete;
     VXMManyPaths& operator=(const VXMManyPaths&) = delete;
 
@@ -66,19 +71,21 @@ public:
     };
 
 private:
-    void FindWhole();
+    void FindWhole(Calls iCalls);
     void CheckCost(const Build& iBuild) const;
     bool IsMade(const VXMListings::Entry& iEntry) const { return !_kept || !_items->IsThinned(iEntry.item); }
     double CountMade(int iPlace) const;
     [[noreturn]] void Raise(const Build& iBuild, double iNodes) const;
     [[noreturn]] void RaiseOfLoop(const Build& iBuild) const;
 
-    VXMStepGraph& _graph;
+    const VXMStepGraph& _graph;
     VXMUnrolledSteps _places;
     std::optional<VXMListings> _listings;
     std::optional<VXMThinnedItems> _items;
     std::optional<VXMUnrolledSteps::Paths> _first;
-    std::vector<std::uint64_t> _pathCounts;
+    std::vector<std::uint64_t> _pathCounts; // by place
+    std::vector<bool> _hasManyPaths;        // by step number
     std::optional<VXMKeptOccurrences> _kept;
-    std::vector<bool> _leadsToWhole; // by place: it or something before it brings an item that is kept whole
+    std::vector<bool>
+        _leadsToWhole; // by place: it is taken on every path, since an item that is kept whole asks for it
 };

@@ -107,9 +107,7 @@ VXMStepGraph::VXMStepGraph(VXMStepNumbers& ioNumbers, VXMFabFlowNode& iEnd,
     _isOnLoop.assign(size, false);
     _group.assign(size, kNone);
     LoopSearch(*this).Run(_numbers.NumberOf(iEnd));
-    const bool hasLoop = std::find(_isOnLoop.begin(), _isOnLoop.end(), true) != _isOnLoop.end();
-    _seen.assign(hasLoop ? size : 0, 0);
-    _cameFrom.resize(_seen.size());
+    _hasLoop = std::find(_isOnLoop.begin(), _isOnLoop.end(), true) != _isOnLoop.end();
 }
 
 /// Gathers the steps before the end; true when it comes to each of them once.
@@ -154,43 +152,4 @@ void VXMStepGraph::ListPredecessors() {
         }
     }
     _begin.push_back(static_cast<int>(_predecessors.size()));
-}
-
-bool VXMStepGraph::MayPassOver(int iStep, const std::vector<bool>& iIsOnPath) {
-    return !_isTree && (!_fruitful[iStep] || (_isOnLoop[iStep] && !LeadsToProducts(iStep, iIsOnPath)));
-}
-
-/// Whether a step that brings products, or one from which the walk leaves the group for such steps, can be reached from
-/// this one without coming past the present path. As long as the walk follows the way that a search has found, no
-/// further search is made.
-bool VXMStepGraph::LeadsToProducts(int iStep, const std::vector<bool>& iIsOnPath) {
-    if (!_way.empty() && _way.back() == iStep) {
-        _way.pop_back();
-        return true;
-    }
-    const auto isOnPath = [&](int iNumber) {
-        return iNumber < static_cast<int>(iIsOnPath.size()) && iIsOnPath[iNumber];
-    };
-    ++_search;
-    _way.clear();
-    std::vector<int> pending{iStep};
-    _seen[iStep] = _search;
-    while (!pending.empty()) {
-        int step = pending.back();
-        pending.pop_back();
-        if (_feeds[step]) {
-            for (; step != iStep; step = _cameFrom[step]) {
-                _way.push_back(step);
-            }
-            return true;
-        }
-        for (const int before : PredecessorsOf(step)) {
-            if (_group[before] == _group[iStep] && !isOnPath(before) && _seen[before] != _search) {
-                _seen[before] = _search;
-                _cameFrom[before] = step;
-                pending.push_back(before);
-            }
-        }
-    }
-    return false;
 }

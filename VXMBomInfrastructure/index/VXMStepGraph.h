@@ -6,11 +6,12 @@
 // Why the same: such a step makes no node, and neither does anything that the walk would reach from it; numbers go
 // along paths and come back to nobody. A step on no loop is fruitless when neither it nor anything before it brings
 // products: nothing that is before it can lie on the present path. On a loop the products may lie behind a step that
-// the walk has come past, so there they are looked for along ways that the present path leaves open. Such a way need
-// not leave the loop, more precisely the steps that reach each other: whoever leaves them comes to steps that reach
-// none of them, and so none of the path. What it gains: 18 sections in a row that fork and join without a list take 0.2
-// ms in place of 75, which double with each section more; a line of 40,000 steps, a feeder into each of them and one
-// loop between two take 0.4 s in place of 99. A walk that writes a trace shows every call, so it passes over nothing.
+// the walk has come past, so there they are looked for along ways that the present path leaves open (VXMOpenWays). Such
+// a way need not leave the loop, more precisely the steps that reach each other: whoever leaves them comes to steps
+// that reach none of them, and so none of the path.
+// What it gains: 18 sections in a row that fork and join without a list take 0.2 ms in place of 75, which double with
+// each section more; a line of 40,000 steps, a feeder into each of them and one loop between two take 0.4 s in place of
+// 99. A walk that writes a trace shows every call, so it passes over nothing.
 
 #pragma once
 
@@ -45,19 +46,19 @@ public:
     /// reaches doesn't pass over it.
     bool IsFruitful(int iStep) const { return _fruitful[iStep]; }
 
-    /// Whether two steps reach each other.
-    bool AreOnOneLoop(int iStep, int iOther) const { return _group[iStep] == _group[iOther]; }
+    /// Whether the step itself brings products, or leads out of its loop to something that does.
+    bool Feeds(int iStep) const { return _feeds[iStep]; }
 
-    /// Asked of a step that isn't on the present path, before the walk enters it. iIsOnPath tells of each step number
-    /// below its size whether the step is on it.
-    bool MayPassOver(int iStep, const std::vector<bool>& iIsOnPath);
+    /// Whether any step lies on a loop; whether this one does; and whether two steps reach each other.
+    bool HasLoop() const { return _hasLoop; }
+    bool IsOnLoop(int iStep) const { return _isOnLoop[iStep]; }
+    bool AreOnOneLoop(int iStep, int iOther) const { return _group[iStep] == _group[iOther]; }
 
 private:
     class LoopSearch;
 
     bool Collect(VXMFabFlowNode& iEnd);
     void ListPredecessors();
-    bool LeadsToProducts(int iStep, const std::vector<bool>& iIsOnPath);
 
     VXMStepNumbers& _numbers;
     bool _isTree = true;
@@ -66,11 +67,7 @@ private:
     std::vector<int> _predecessors;      // in their order, null ones left out
     std::vector<int> _group;             // by number: steps that reach each other are of one group
     std::vector<bool> _isOnLoop;
+    bool _hasLoop = false;
     std::vector<bool> _fruitful; // by number: it or something before it brings products
     std::vector<bool> _feeds;    // by number: it does itself, or something before it outside its group
-
-    std::vector<unsigned> _seen; // by number: the search that has come past it last
-    std::vector<int> _cameFrom;  // by number: from where that search came
-    unsigned _search = 0;
-    std::vector<int> _way; // the rest of the way that the last search found, next step last
 };

@@ -1,6 +1,7 @@
 #include "VXMBomInfrastructure/index/VXMUnrolledSteps.h"
 
 #include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/index/VXMOpenWays.h"
 
 namespace {
 
@@ -10,9 +11,8 @@ constexpr int kNone = -1;
 
 class VXMUnrolledSteps::Unrolling {
 public:
-    Unrolling(VXMUnrolledSteps& ioPlaces, VXMStepGraph& ioGraph, std::uint64_t iMost)
-        : _places(ioPlaces), _graph(ioGraph), _most(iMost), _entered(ioGraph.Size(), kNone),
-          _isOnPath(ioGraph.Size(), false) {}
+    Unrolling(VXMUnrolledSteps& ioPlaces, const VXMStepGraph& iGraph, std::uint64_t iMost)
+        : _places(ioPlaces), _graph(iGraph), _most(iMost), _ways(iGraph), _entered(iGraph.Size(), kNone) {}
 
     void Run(int iEnd) {
         Enter(iEnd);
@@ -58,7 +58,7 @@ private:
             const int step = _places._steps[place];
             const std::span<const int> before = _graph.PredecessorsOf(step);
             if (_way.back().next == before.size()) {
-                _isOnPath[step] = false;
+                _ways.Leave(step);
                 _way.pop_back();
                 continue;
             }
@@ -67,7 +67,7 @@ private:
                 if (_graph.IsFruitful(next)) {
                     _links.push_back({place, Enter(next)});
                 }
-            } else if (!_isOnPath[next] && !_graph.MayPassOver(next, _isOnPath)) {
+            } else if (!_ways.IsOnPath(next) && !_ways.MayPassOver(next)) {
                 _links.push_back({place, Make(next)});
                 Open(_links.back().before);
             }
@@ -76,7 +76,7 @@ private:
 
     void Open(int iPlace) {
         _way.push_back({iPlace, 0});
-        _isOnPath[_places._steps[iPlace]] = true;
+        _ways.Enter(_places._steps[iPlace]);
     }
 
     void SortLinks() {
@@ -95,17 +95,17 @@ private:
     }
 
     VXMUnrolledSteps& _places;
-    VXMStepGraph& _graph;
+    const VXMStepGraph& _graph;
     std::uint64_t _most;
+    VXMOpenWays _ways;
     std::vector<int> _entered; // by step number: its place when entered from outside its loop
-    std::vector<bool> _isOnPath;
     std::vector<int> _pending;
     std::vector<Visit> _way;
     std::vector<Link> _links;
 };
 
-VXMUnrolledSteps::VXMUnrolledSteps(VXMStepGraph& ioGraph, int iEnd, std::uint64_t iMost) {
-    Unrolling(*this, ioGraph, iMost).Run(iEnd);
+VXMUnrolledSteps::VXMUnrolledSteps(const VXMStepGraph& iGraph, int iEnd, std::uint64_t iMost) {
+    Unrolling(*this, iGraph, iMost).Run(iEnd);
 }
 
 /// A walk that enters each place once comes to it on its first path; taken backwards, on its last one. The order of

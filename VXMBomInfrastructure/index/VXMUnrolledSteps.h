@@ -4,7 +4,7 @@
 // In place of: asking at each step whether it is on the present path.
 // Why the same: within steps that reach each other, the ways that come past no step twice are spelt out, from each step
 // at which the walk can enter them; what stands before them outside is the same for each way, since from there no way
-// leads back. Steps from which the walk would reach nothing are left out (VXMStepGraph).
+// leads back. Steps from which the walk would reach nothing are left out (VXMOpenWays).
 // What it gains: paths can be counted and the first and last one found, by looking at each step once. Ways through a
 // loop are as many as the walk would make nodes for, so nothing is lost.
 
@@ -19,7 +19,7 @@
 class VXMUnrolledSteps {
 public:
     /// Stops when there are more places than iMost.
-    VXMUnrolledSteps(VXMStepGraph& ioGraph, int iEnd, std::uint64_t iMost);
+    VXMUnrolledSteps(const VXMStepGraph& iGraph, int iEnd, std::uint64_t iMost);
     VXMUnrolledSteps(const VXMUnrolledSteps&) = delete;
     VXMUnrolledSteps& operator=(const VXMUnrolledSteps&) = delete;
 

@@ -224,6 +224,18 @@ TEST(ManyPaths, WhatStillMultipliesIsRefusedAndNamed) {
         }
         EXPECT_EQ(generator->GetBom(0), before);
     }
+    World bare;
+    const auto traced = makeGenerator(drawSections(bare, 40, "", {"", "", ""}), Root::Process, Algorithm::Present);
+    const DOM_Document before = traced->GetBom(0);
+    try {
+        const TraceCapture capture;
+        traced->GetBom(1);
+        ADD_FAILURE() << "traced";
+    } catch (const VXMTooManyNodes& error) {
+        EXPECT_NE(std::string(error.what()).find("about 4.4e+12 times, more than 20000000: \"J0\""), std::string::npos)
+            << error.what();
+    }
+    EXPECT_EQ(traced->GetBom(0), before);
     World plain;
     const auto generator =
         makeGenerator(drawPlan(plain, "S1: +P(Q) | S2: -P | S3: +P(Q)"), Root::Process, Algorithm::Present);

@@ -128,6 +128,28 @@ TEST(Scale, EveryStepIsLinkedToOneThatLeadsNowhere) {
     expectElements(root, kMany);
 }
 
+/// Each step of a loop can be reached from a line that leads nowhere but back to the loop.
+TEST(Scale, WaysOnALoopThatLeadNowhere) {
+    World world;
+    Thing& root = chainPlan(world, kDeep);
+    const Things line = *root.children;
+    for (int index = 1; index < kDeep; ++index) {
+        line[index]->items[2]->clear();
+    }
+    Things nowhere;
+    for (int index = 0; index < kDeep; ++index) {
+        nowhere.push_back(&world.thing(named("N", index), kStep));
+        nowhere.back()->parent = &root;
+        World::link(index > 0 ? *nowhere[index - 1] : *line[kDeep - 2], *nowhere.back());
+    }
+    World::link(*line[kDeep - 2], *line[1]);
+    for (int index = 1; index < kDeep - 2; ++index) {
+        World::link(*nowhere.back(), *line[index]);
+    }
+    root.children->insert(root.children->end(), nowhere.begin(), nowhere.end());
+    expectElements(root, 1);
+}
+
 TEST(Scale, StepsNestedInEachOther) {
     World world;
     Thing& root = drawPlan(world, "S1: +P1 | S2: +P2");
