@@ -1,6 +1,7 @@
 #include "planner/bill/Bill.h"
 #include "planner/bill/BillFormats.h"
 #include "planner/bill/BillRemarks.h"
+#include "planner/bill/MakeGenerator.h"
 #include "planner/cli/Commands.h"
 #include "planner/cli/Output.h"
 #include "planner/cli/SheetOutput.h"
@@ -10,8 +11,6 @@
 #include "planner/file/JsonText.h"
 #include "planner/model/FastenerSettings.h"
 #include "planner/sheet/BillSheet.h"
-
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <charconv>
 
@@ -26,8 +25,8 @@ constexpr std::size_t kLongTrace = 2000;
 struct Task {
     const Plan& plan;
     ModelObject& root;
-    ModelObject* end; ///< the step at which the flow ends, null for its own end
-    long long maxNodes;
+    ModelObject* end;                  ///< the step at which the flow ends, null for its own end
+    std::optional<long long> maxNodes; ///< none for what fits
 };
 
 struct Computed {
@@ -38,9 +37,11 @@ struct Computed {
 /// Nothing when the step at which the flow is to end isn't part of it, after saying so.
 std::optional<Computed> compute(const Task& task) {
     const FastenerSettings settings;
-    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(&task.root);
+    const std::unique_ptr<VXMBomGenerator> generator = makeGenerator(&task.root);
     generator->SetEndOfFlow(task.end);
-    generator->SetMaxNodes(task.maxNodes);
+    if (task.maxNodes) {
+        generator->SetMaxNodes(*task.maxNodes);
+    }
     const DOM_Document document = generator->GetBom(0);
     Computed computed{readBill(document, generator->GetPreviewObjects()), {}};
     if (!task.end) {
@@ -99,11 +100,13 @@ Status runBom(const Arguments& arguments) {
     if (!output) {
         return Status::Bad;
     }
-    const std::optional<long long> maxNodes = readCount(arguments, "--max-nodes");
-    if (!maxNodes) {
-        return Status::Bad;
+    Task task{*subject.plan, *subject.root, nullptr, std::nullopt};
+    if (arguments.has("--max-nodes")) {
+        task.maxNodes = readCount(arguments, "--max-nodes");
+        if (!task.maxNodes) {
+            return Status::Bad;
+        }
     }
-    Task task{*subject.plan, *subject.root, nullptr, *maxNodes};
     if (arguments.has("--at")) {
         task.end = findStep(*subject.plan, arguments, "--at");
         if (!task.end) {

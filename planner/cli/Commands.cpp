@@ -3,7 +3,6 @@
 #include "planner/bill/BillFormats.h"
 #include "planner/questions/check/Check.h"
 
-#include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
 #include "VXMBomInfrastructure/nodes/VXMFastenerTypes.h"
 
 namespace planner {
@@ -72,11 +71,9 @@ std::vector<Command> makeTable() {
              {"--format", "tree for people; xml, json or csv for programs; xlsx, a spreadsheet", Value::OneOf, "FORMAT",
               formatNames(), "tree"},
              {"--max-nodes",
-              "Most nodes to make for steps on several paths, a whole number",
-              Value::Text,
-              "N",
-              {},
-              std::to_string(VXMBomGenerator::kMaxNodes)},
+              "Most nodes to make for steps on several paths, a whole number; by default what half of the free memory "
+              "holds",
+              Value::Text, "N"},
              outputTo("File to write; standard output by default and for -"),
              {"--trace", "Write the trace of the run to a file, - for standard error", Value::File, "FILE"},
          }),

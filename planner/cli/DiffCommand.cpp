@@ -2,11 +2,10 @@
 #include "planner/cli/Output.h"
 #include "planner/cli/Subject.h"
 
+#include "planner/bill/MakeGenerator.h"
 #include "planner/file/PlanReader.h"
 #include "planner/file/SourceText.h"
 #include "planner/questions/diff/DiffFormats.h"
-
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <unistd.h>
 
@@ -29,7 +28,7 @@ public:
     bool isGood() const { return root_ != nullptr; }
 
     BilledPlan compute() {
-        generator_ = VXMMakeBomGenerator(root_);
+        generator_ = makeGenerator(root_);
         const DOM_Document document = generator_->GetBom(0);
         bill_ = readBill(document, generator_->GetPreviewObjects());
         return {*plan_, *root_, *generator_, bill_};

@@ -2,12 +2,11 @@
 #include "planner/cli/Output.h"
 #include "planner/cli/Subject.h"
 
+#include "planner/bill/MakeGenerator.h"
 #include "planner/file/SourceText.h"
 #include "planner/model/FastenerSettings.h"
 #include "planner/questions/check/CheckFormats.h"
 #include "planner/report/Report.h"
-
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 namespace planner {
 
@@ -22,7 +21,7 @@ void addAnswers(const Subject& subject, Report& report) {
         report.kitsNote = error.what();
     }
     const FastenerSettings settings;
-    const std::unique_ptr<VXMBomGenerator> unrecorded = recorded ? nullptr : VXMMakeBomGenerator(subject.root);
+    const std::unique_ptr<VXMBomGenerator> unrecorded = recorded ? nullptr : makeGenerator(subject.root);
     VXMBomGenerator& generator = recorded ? recorded->generator() : *unrecorded;
     const DOM_Document document = generator.GetBom(0);
     report.bill = readBill(document, generator.GetPreviewObjects());

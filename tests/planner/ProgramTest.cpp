@@ -126,13 +126,39 @@ TEST(ProgramBom, RefusesWhatMultipliesBeyondItsBound) {
                 below + "]}, ";
     }
     deep += R"({"id": "d50", "kind": "product"}]})";
-    const Outcome multiplied = run("bom %", deep);
+    const Outcome multiplied = run("bom % --max-nodes 20000000", deep);
     EXPECT_EQ(multiplied.status, 2);
     EXPECT_EQ(multiplied.output, "");
     EXPECT_EQ(multiplied.errors,
               "planner: products bring at least 1099511627775 parts, more than 20000000: the latest is "
               "\"d0\"; its parts stand in several places\n");
 }
+
+#ifndef __SANITIZE_ADDRESS__ // which takes all addresses that there are
+TEST(ProgramBom, TakesItsBoundFromTheMemoryThatIsFree) {
+    std::string steps = R"({"id": "s0", "first_assigned": ["p"]})";
+    std::string links;
+    for (int section = 1; section <= 22; ++section) {
+        const std::string before = "\"s" + std::to_string(section - 1) + "\"";
+        const std::string number = std::to_string(section) + "\"";
+        steps += R"(, {"id": "l)" + number + R"(, "first_assigned": ["a"]}, {"id": "r)" + number +
+                 R"(, "removed": ["a"]}, {"id": "s)" + number + "}";
+        for (const char* const side : {"\"l", "\"r"}) {
+            links += (links.empty() ? "[" : ", [") + before + ", " + side + number + "], [" + side + number + ", \"s" +
+                     number + "]";
+        }
+    }
+    const std::string plan = R"({"version": 1, "items": [{"id": "p", "kind": "product"},
+  {"id": "a", "kind": "assembly", "holds": ["p"]}], "process": {"id": "line", "children": [)" +
+                             steps + R"(]}, "links": [)" + links + "]}";
+    const Outcome refused = runShell("ulimit -v 600000; " PLANNER_PROGRAM " bom %", plan);
+    EXPECT_EQ(refused.status, 2);
+    const std::string said = "more than ";
+    const std::size_t number = refused.errors.find(said);
+    ASSERT_NE(number, std::string::npos) << refused.errors;
+    EXPECT_LT(std::stoll(refused.errors.substr(number + said.size())), 600000LL * 1024 / 2 / 400);
+}
+#endif
 
 class BadRun : public testing::TestWithParam<Case> {};
 

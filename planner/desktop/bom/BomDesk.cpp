@@ -14,6 +14,7 @@
 #include "QORPlatform/visualization/QORVisManager.h"
 #include "VXMBomInfrastructure/VXMBomViewer.m/src/VXMFabBomViewer.h"
 #include "VXMBomInfrastructure/generation/VXMBomGenerator.h"
+#include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
 
 #include <algorithm>
 #include <array>
@@ -102,6 +103,8 @@ void BomDesk::open(ModelObject& root, int mode) {
         finish(*window, root, mode);
     } catch (const QORCancelled&) {
         Q_EMIT said("The bill was cancelled; no window was opened.");
+    } catch (const VXMTooManyNodes& error) {
+        Q_EMIT said(QString::fromUtf8(error.what()));
     }
 }
 

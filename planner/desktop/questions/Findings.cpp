@@ -4,6 +4,7 @@
 #include "planner/desktop/plan/PlanSession.h"
 
 #include "QORPlatform/toolkit/QORProgress.h"
+#include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
 
 namespace planner::desktop {
 
@@ -47,7 +48,11 @@ void Findings::clear() {
 
 void Findings::follow() {
     const bool stands = root_ && root_->standsInPlan();
-    run(stands ? *root_.Get() : BomDesk::usualRoot(session_.plan()));
+    try {
+        run(stands ? *root_.Get() : BomDesk::usualRoot(session_.plan()));
+    } catch (const VXMTooManyNodes&) {
+        clear(); // whoever asks for the check is told
+    }
 }
 
 void Findings::run(ModelObject& root) {

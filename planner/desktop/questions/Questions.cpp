@@ -8,13 +8,13 @@
 #include "planner/desktop/questions/Findings.h"
 
 #include "planner/bill/Bill.h"
+#include "planner/bill/MakeGenerator.h"
 #include "planner/file/PlanReader.h"
 #include "planner/questions/diff/DiffFormats.h"
 #include "planner/questions/explain/ExplainFormats.h"
 #include "planner/text/StyledText.h"
 
 #include "QORPlatform/toolkit/QORProgress.h"
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -57,7 +57,7 @@ QString findingsText(const std::vector<Finding>& findings) {
 
 /// A bill with the generator that has computed it.
 struct Computed {
-    explicit Computed(ModelObject& root) : generator(VXMMakeBomGenerator(QORBaseUnknown_var(&root))) {
+    explicit Computed(ModelObject& root) : generator(makeGenerator(QORBaseUnknown_var(&root))) {
         const DOM_Document document = generator->GetBom(0);
         bill = readBill(document, generator->GetPreviewObjects());
     }
@@ -118,7 +118,7 @@ QString Questions::answerWhy() {
 QString Questions::answerBillAtStep() {
     const FastenerSettings settings;
     const QORBaseUnknown_var step(choice_.present());
-    const auto generator = VXMMakeBomGenerator(QORBaseUnknown_var(&root()));
+    const auto generator = makeGenerator(QORBaseUnknown_var(&root()));
     generator->SetEndOfFlow(step);
     const DOM_Document document = generator->GetBom(0);
     const Bill bill = readBill(document, generator->GetPreviewObjects());

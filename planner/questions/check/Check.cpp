@@ -1,16 +1,15 @@
 #include "planner/questions/check/Check.h"
 
+#include "planner/bill/MakeGenerator.h"
 #include "planner/file/JsonText.h"
 #include "planner/questions/check/CheckWork.h"
-
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
 
 #include <algorithm>
 
 namespace planner {
 
 std::vector<Finding> checkPlan(Plan& plan, ModelObject& root) {
-    const std::unique_ptr<VXMBomGenerator> generator = VXMMakeBomGenerator(&root);
+    const std::unique_ptr<VXMBomGenerator> generator = makeGenerator(&root);
     const DOM_Document document = generator->GetBom(0);
     return checkPlan(plan, root, *generator, readBill(document, generator->GetPreviewObjects()));
 }

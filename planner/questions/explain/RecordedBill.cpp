@@ -1,13 +1,16 @@
 #include "planner/questions/explain/RecordedBill.h"
 
-#include "VXMBomInfrastructure/generation/VXMMakeBomGenerator.h"
+#include "planner/bill/MakeGenerator.h"
+
 #include "VXMBomInfrastructure/generation/VXMTooManyNodes.h"
+
+#include <algorithm>
 
 namespace planner {
 
-RecordedBill::RecordedBill(ModelObject& root, long long most) : root_(root), generator_(VXMMakeBomGenerator(&root)) {
+RecordedBill::RecordedBill(ModelObject& root, long long most) : root_(root), generator_(makeGenerator(&root)) {
     generator_->SetRecorder(&record_);
-    generator_->SetMaxNodes(most);
+    generator_->SetMaxNodes(std::min(most, generator_->GetMaxNodes()));
     try {
         generator_->GetBom(1);
     } catch (const VXMTooManyNodes&) {
