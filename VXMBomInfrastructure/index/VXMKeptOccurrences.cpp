@@ -117,7 +117,7 @@ void VXMKeptOccurrences::KeepPair(std::span<const Listed> iListed, int iItem) {
         return;
     }
     if (next < assigned && _items.HeightOf(iItem) == 0 && !Lists(iListed, Kind::K_First)) {
-        KeepLastAssigned(iListed);
+        KeepLastAssigned(iListed); // nothing else of S, so where S begins needn't be known
         return;
     }
     Search().Count(iListed);
