@@ -12,7 +12,7 @@ namespace {
 
 /// Memory for RapidJSON, which doesn't look whether it got any.
 struct ThrowingAllocator {
-    static constexpr bool kNeedFree = true; // NOLINT(readability-identifier-naming): RapidJSON's name
+    [[maybe_unused]] static constexpr bool kNeedFree = true; // NOLINT(readability-identifier-naming): RapidJSON's name
 
     static void* Malloc(std::size_t size) { return size == 0 ? nullptr : checked(std::malloc(size)); }
     static void* Realloc(void* old, std::size_t, std::size_t size) {
