@@ -8,7 +8,7 @@
 template <const char* Name>
 class Speaker : public QORBaseUnknown {
 public:
-    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID(Name); }
+    static constexpr QORInterfaceID InterfaceID() { return QORInterfaceID(std::string_view(Name)); }
     virtual std::string speak() = 0;
 };
 
