@@ -3,6 +3,7 @@
 #include "QORPlatform/framework/QORTie.h"
 
 #include <string>
+#include <string_view>
 
 /// Interface to speak through: one per name, all with the same operation.
 template <const char* Name>
