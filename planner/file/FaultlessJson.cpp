@@ -3,6 +3,7 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include <charconv>
 #include <cstdlib>
 #include <new>
 
@@ -40,18 +41,20 @@ public:
 
     bool Null() { return arrive().null(); }
     bool Bool(bool value) { return arrive().boolean(value); }
-    bool Int(int value) { return arrive().number_integer(value); }
-    bool Int64(std::int64_t value) { return arrive().number_integer(value); }
-    bool Uint(unsigned value) { return arrive().number_unsigned(value); }
-    bool Uint64(std::uint64_t value) { return arrive().number_unsigned(value); }
-    bool Double(double value) { return arrive().number_float(value, {}); }
     bool String(Letters letters, Count length, bool) { return take(letters, length) && arrive().string(text_); }
     bool Key(Letters letters, Count length, bool) { return take(letters, length) && arrive().key(text_); }
     bool StartObject() { return arrive().start_object(kUnknownCount); }
     bool EndObject(Count) { return arrive().end_object(); }
     bool StartArray() { return arrive().start_array(kUnknownCount); }
     bool EndArray(Count) { return arrive().end_array(); }
-    bool RawNumber(Letters, Count, bool) { return false; } // comes only when asked for
+    bool RawNumber(Letters letters, Count length, bool) { return takeNumber({letters, length}); }
+
+    // What comes only of numbers that are converted.
+    bool Int(int) { return false; }
+    bool Int64(std::int64_t) { return false; }
+    bool Uint(unsigned) { return false; }
+    bool Uint64(std::uint64_t) { return false; }
+    bool Double(double) { return false; }
 
 private:
     static constexpr std::size_t kUnknownCount = static_cast<std::size_t>(-1);
@@ -66,6 +69,26 @@ private:
             at = text_.find(kFirstOfHalf, at + 1);
         }
         return at == std::string::npos;
+    }
+
+    /// Whole numbers that are too large for that are taken as fractions are; what is too large, or too small, even then
+    /// is refused.
+    bool takeNumber(std::string_view number) {
+        if (number.find_first_of(".eE") == std::string_view::npos) {
+            if (std::uint64_t value = 0; convert(number, value)) {
+                return arrive().number_unsigned(value);
+            }
+            if (std::int64_t value = 0; convert(number, value)) {
+                return arrive().number_integer(value);
+            }
+        }
+        double value = 0;
+        return convert(number, value) && arrive().number_float(value, {});
+    }
+
+    template <class Value>
+    static bool convert(std::string_view number, Value& value) {
+        return std::from_chars(number.data(), number.data() + number.size(), value).ec == std::errc();
     }
 
     /// RapidJSON stands behind the token whose event it raises, but before an opening bracket.
@@ -85,8 +108,9 @@ private:
 
 bool readFaultlessJson(std::string_view text, std::size_t offset, TokenPlaces& places,
                        nlohmann::json_sax<nlohmann::json>& handler) {
-    // Iterative: a plan may be nested deeper than the thread's stack allows.
-    constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag;
+    // Iterative: a plan may be nested deeper than the thread's stack allows. Numbers as texts: RapidJSON's conversion
+    // of a zero with an exponent isn't defined.
+    constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
     ThrowingAllocator memory;
     rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator> reader(&memory);
     rapidjson::MemoryStream stream(text.data() + offset, text.size() - offset);

@@ -57,7 +57,7 @@ std::optional<std::string> fastEvents(std::string_view text) {
 }
 
 constexpr std::string_view kPlan =
-    R"( {"version": 1.0, "items":[{"id":"a\"\u00e4\\","size":[-0, -0.5e+3,1E2,12e-1, 0]},{}],
+    R"( {"version": 1.0, "items":[{"id":"a\"\u00e4\\","size":[-0, -0.5e+3,1E2,12e-1, 0, 0e50, -0e5, 0.0E-7, 9007199254740993, 0.1, -9223372036854775808, 5e-324, -9223372036854775809]},{}],
  "notes" : {"x":[null,true,false,[[ ]], "\n\t\/\u20ac"], "big": 18446744073709551616} , "ä€😀한":"\ud83d\ude00\ud55c" } )";
 
 TEST(FaultlessJson, TakesAllThatAPlanFileHas) {
