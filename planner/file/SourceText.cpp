@@ -135,7 +135,10 @@ std::optional<EncodingFault> findEncodingFault(std::string_view text) {
     if (looksLikeUtf16(text)) {
         return EncodingFault{0, "the file is in UTF-16 or another wide encoding; expected UTF-8"};
     }
-    std::size_t offset = 0;
+    std::size_t offset = signatureLength(text);
+    if (offset > 0 && signatureLength(text.substr(offset)) > 0) {
+        return EncodingFault{offset, "a second signature of UTF-8; expected JSON text"};
+    }
     while (offset < text.size()) {
         if (offset + 8 <= text.size() && isAscii(text, offset)) {
             offset += 8;

@@ -52,6 +52,7 @@ const Case kText[] = {
     {"BrokenUtf8", "{\"version\":1,\n\"plan\":\"a\xE4\"}", "p:2:10: byte 0xE4 begins no character; expected UTF-8\n"},
     {"OverlongUtf8", "{\"plan\":\"\xC0\xAF\"}", "p:1:10: byte 0xC0 begins no character; expected UTF-8\n"},
     {"SurrogateInUtf8", "{\"plan\":\"\xED\xA0\x80\"}", "p:1:10: byte 0xED begins no character; expected UTF-8\n"},
+    {"TwoSignatures", "\xEF\xBB\xBF\xEF\xBB\xBF{}", "p:1:1: a second signature of UTF-8; expected JSON text\n"},
     {"Utf16", std::string("\xFF\xFE{\0", 4), "p:1:1: the file is in UTF-16 or another wide encoding; expected UTF-8\n"},
     {"Utf16WithoutSignature", std::string("{\0\"\0", 4),
      "p:1:1: the file is in UTF-16 or another wide encoding; expected UTF-8\n"},
