@@ -1,29 +1,15 @@
 #include "planner/flow/FlowSvg.h"
 
 #include "planner/flow/FlowDot.h"
+#include "planner/flow/Graphviz.h"
 #include "planner/text/Words.h"
-
-#include <gvc.h>
-
-#include <memory>
 
 namespace planner {
 
+using graphviz::context;
+using graphviz::Graph;
+
 namespace {
-
-/// Loaded once: reading the list of its engines takes longer than to draw a small flow.
-GVC_t* context() {
-    static const std::unique_ptr<GVC_t, int (*)(GVC_t*)> instance(gvContext(), gvFreeContext);
-    return instance.get();
-}
-
-struct EndGraph {
-    void operator()(Agraph_t* graph) const {
-        gvFreeLayout(context(), graph);
-        agclose(graph);
-    }
-};
-using Graph = std::unique_ptr<Agraph_t, EndGraph>;
 
 /// What makes a flow too large to be drawn, if it is.
 std::optional<std::string> complaintOnSize(const FlowGraph& graph) {

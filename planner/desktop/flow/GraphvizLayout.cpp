@@ -3,31 +3,19 @@
 
 #include "planner/desktop/flow/FlowLayout.h"
 
-#include <gvc.h>
+#include "planner/flow/Graphviz.h"
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 namespace planner::desktop {
 
+using graphviz::context;
+using graphviz::Graph;
+
 namespace {
 
 constexpr double kPointsPerUnit = 72;
-
-/// Loaded once: reading the list of its engines takes longer than to arrange a small flow.
-GVC_t* context() {
-    static const std::unique_ptr<GVC_t, int (*)(GVC_t*)> instance(gvContext(), gvFreeContext);
-    return instance.get();
-}
-
-struct EndGraph {
-    void operator()(Agraph_t* graph) const {
-        gvFreeLayout(context(), graph);
-        agclose(graph);
-    }
-};
-using Graph = std::unique_ptr<Agraph_t, EndGraph>;
 
 /// The library asks for text that it may change.
 char* text(const char* constant) {

@@ -23,8 +23,20 @@ namespace planner::desktop {
 
 namespace {
 
+/// An icon that is painted at any size.
+class PaintedEngine : public QIconEngine {
+public:
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+};
+
 /// Paints a picture whenever it is asked for, so that size and colours are those of the moment.
-class Engine final : public QIconEngine {
+class Engine final : public PaintedEngine {
 public:
     explicit Engine(const Picture& picture) : picture_(picture) {}
 
@@ -38,14 +50,6 @@ public:
         painter->restore();
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
-    }
-
     QIconEngine* clone() const override { return new Engine(*this); }
 
 private:
@@ -53,7 +57,7 @@ private:
 };
 
 /// An icon with a mark in its lower right corner.
-class MarkedEngine final : public QIconEngine {
+class MarkedEngine final : public PaintedEngine {
 public:
     explicit MarkedEngine(QIcon base) : base_(std::move(base)) {}
 
@@ -63,14 +67,6 @@ public:
         base_.paint(painter, rect, Qt::AlignCenter, mode, state);
         icon("finding").paint(painter,
                               QRect(rect.bottomRight() - QPoint(size.width(), size.height()) + QPoint(2, 2), size));
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     QIconEngine* clone() const override { return new MarkedEngine(*this); }
